@@ -1,0 +1,34 @@
+# How every target is compiled: C++20, strict warnings, ccache where there is one.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+if(MSVC)
+  message(FATAL_ERROR "Build with g++, clang++ or MinGW-w64")
+endif()
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
+
+if(LUMIGRAFO_SANITIZER)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+# lum_logica(name sources...): a library of the logic. It never sees Qt, so a stray Qt include fails to compile.
+function(lum_logica nome)
+  add_library(${nome} STATIC ${ARGN})
+  target_include_directories(${nome} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+endfunction()
+
+# lum_finestre(name sources...): a library of windows, on Qt Widgets.
+function(lum_finestre nome)
+  add_library(${nome} STATIC ${ARGN})
+  target_include_directories(${nome} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(${nome} PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets)
+endfunction()

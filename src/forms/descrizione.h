@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "platform/colore.h"
+#include "platform/misure.h"
+
+/// Windows as tables: a constexpr row a control, in twips as drawn at the design, in order of creation, which is
+/// the order from back to front.
+namespace lumigrafo {
+
+enum class Tipo : std::uint8_t {
+    Etichetta, ///< text
+    Riquadro,  ///< plain box that can hold others
+    Cornice,   ///< box shaded from `sfumatura1` to `sfumatura2`
+    Immagine,  ///< a picture from the resources
+    Bottone,   ///< push button with a text, a picture or both
+    Casella,   ///< text box
+    Griglia,   ///< grid of text cells
+    Linea,     ///< rule
+};
+
+enum class Allineamento : std::uint8_t { Sinistra, Centro, Destra };
+
+/// A font as the design names it; sizes are points at the window's design size.
+struct Carattere {
+    std::string_view nome = "Arial";
+    double dimensione = 9.75;
+    bool grassetto = false;
+    bool corsivo = false;
+};
+
+inline constexpr int kSenzaIndice = -1;
+
+/// One control of a window.
+struct Descrizione {
+    Tipo tipo = Tipo::Etichetta;
+    std::string_view nome;
+    int indice = kSenzaIndice; ///< place in its control array
+    std::string_view padre;    ///< `nome` or `nome(indice)` of the container; empty: the window
+    Rettangolo rett;           ///< within the container
+    Carattere carattere{};
+    Allineamento allineamento = Allineamento::Sinistra;
+    Colore testo = kNero;
+    std::optional<Colore> sfondo{}; ///< none: transparent
+    std::string_view caption{};
+    bool visibile = true;
+    std::string_view figura{};          ///< picture in the resources, by its file name without ".svg"
+    std::string_view nomeAccessibile{}; ///< where the caption doesn't say it
+    bool cliccabile = false;            ///< a label, box or picture that takes clicks
+};
+
+/// One window.
+struct Layout {
+    std::string_view nome;
+    std::string_view titolo;
+    Twip larghezza, altezza; ///< client size at the design
+    Colore sfondo = kNero;
+    std::span<const Descrizione> controlli;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "forms/descrizione.h"
+
+namespace lumigrafo {
+
+/// A rectangle on the screen, in pixels.
+struct RettangoloPixel {
+    int x = 0, y = 0, larghezza = 0, altezza = 0;
+    friend constexpr bool operator==(const RettangoloPixel&, const RettangoloPixel&) = default;
+};
+
+/// How a window's controls follow its size: positions and sizes with each axis, type with the smaller of the two.
+/// It always starts from the design measures, so that any number of resizes and back ends where it began.
+class Scala {
+public:
+    /// `larghezza` and `altezza`: client size now, in pixels. The layout's design size must be above 0.
+    Scala(const Layout& layout, int larghezza, int altezza);
+
+    /// Neighbouring edges stay neighbours: each edge is rounded by itself.
+    [[nodiscard]] RettangoloPixel rettangolo(const Rettangolo& rett) const;
+    /// Height of the type in pixels, at least 1, for a size in points at the design.
+    [[nodiscard]] int carattere(double punti) const;
+    [[nodiscard]] int larghezza(Twip t) const;
+    [[nodiscard]] int altezza(Twip t) const;
+
+private:
+    double x_, y_;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <chrono>
+
+namespace lumigrafo {
+
+/// A calendar date. Months and days count from 1.
+struct Data {
+    int anno = 0, mese = 0, giorno = 0;
+    friend constexpr auto operator<=>(const Data&, const Data&) = default;
+};
+
+/// Local date and time of day, to the second.
+struct DataOra {
+    Data data;
+    int ora = 0, minuto = 0, secondo = 0;
+};
+
+/// The day before.
+[[nodiscard]] Data ieri(Data data);
+
+/// The clock, and the waits that the behaviour demands.
+class Orologio {
+public:
+    virtual ~Orologio() = default;
+    /// Local time now.
+    [[nodiscard]] virtual DataOra adesso() const = 0;
+    /// Blocks the thread; no event is let through meanwhile.
+    virtual void attendi(std::chrono::milliseconds durata) = 0;
+};
+
+} // namespace lumigrafo
