@@ -1,18 +1,19 @@
 #pragma once
 
-#include <cstdint>
-
 #include "forms/controlli.h"
+
+#include <cstdint>
 
 namespace lumigrafo {
 
-/// The board window in use, as the console refers to it for the whole run (`frmVideata`). The window itself comes and
-/// goes: it is loaded by the first use of its controls or by a show, and unloaded by its own close control, by the
-/// console and by the end of the run. A use after an unload loads it anew.
+/// The board window in use, as the console refers to it for the whole run (`frmVideata`). The window itself
+/// comes and goes: it is loaded by the first use of its controls or by a show, and unloaded by its own close
+/// control, by the console and by the end of the run. A use after an unload loads it anew.
 class Videata {
 public:
     virtual ~Videata() = default;
-    /// The labels that the console writes by name and index: `lblNumero1`.. of each slot, and the message panel.
+    /// The labels that the console writes by name and index: `lblNumero1`.. of each slot, and the message
+    /// panel.
     virtual Controlli& controlli() = 0;
     [[nodiscard]] virtual bool caricata() const = 0;
     /// Shows the window and raises it; a loaded window isn't loaded again.

@@ -1,8 +1,8 @@
 #include "forms/controlli.h"
 
-#include <utility>
-
 #include "platform/guasto.h"
+
+#include <utility>
 
 namespace lumigrafo {
 
@@ -66,8 +66,8 @@ void Controllo::FontSize(double punti) {
 void Controllo::ForeColor(Colore c) {
     cambia(testo_, c, Aspetto::Colori);
 }
-void Controllo::BackColor(Colore c) {
-    cambia(sfondo_, std::optional(c), Aspetto::Colori);
+void Controllo::BackColor(std::optional<Colore> c) {
+    cambia(sfondo_, c, Aspetto::Colori);
 }
 void Controllo::Sfumatura1(Colore c) {
     cambia(sfumatura1_, c, Aspetto::Colori);
@@ -76,7 +76,11 @@ void Controllo::Sfumatura2(Colore c) {
     cambia(sfumatura2_, c, Aspetto::Colori);
 }
 void Controllo::Figura(std::string nome) {
-    cambia(figura_, std::move(nome), Aspetto::Figura);
+    figura_ = std::move(nome);
+    annuncia(Aspetto::Figura); // even where the name is the same: the file may have changed
+}
+void Controllo::Adatta(Adattamento modo) {
+    cambia(adatta_, modo, Aspetto::Figura);
 }
 void Controllo::ZOrder() {
     annuncia(Aspetto::Ordine);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "forms/descrizione.h"
+
 #include <map>
 #include <memory>
 #include <optional>
@@ -7,10 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/descrizione.h"
-
-/// The state of a window's controls, apart from any widget: what the logic reads and writes by name and index.
-/// A view follows the changes; without a view it is all that a test needs.
+/// The state of a window's controls, apart from any widget: what the logic reads and writes by name and
+/// index. A view follows the changes; without a view it is all that a test needs.
 namespace lumigrafo {
 
 class Controllo;
@@ -28,6 +28,13 @@ enum class Aspetto {
     Fuoco,  ///< asked for the keyboard focus
 };
 
+/// How a picture fills its control.
+enum class Adattamento {
+    Intera,   ///< as large as fits, in its own proportions
+    Stirata,  ///< over the whole control
+    Naturale, ///< at its own size from the top left, cut off by the control
+};
+
 /// Follows the controls of one window; told of each change once it is made.
 class OsservatoreControlli {
 public:
@@ -37,8 +44,8 @@ public:
 
 class Controlli;
 
-/// One control. The names of its properties are those of the layouts. Geometry is in twips of the design; the view
-/// scales it with the window, so that writing a position never depends on the window's present size.
+/// One control. The names of its properties are those of the layouts. Geometry is in twips of the design; the
+/// view scales it with the window, so that writing a position never depends on the window's present size.
 class Controllo {
 public:
     Controllo(Controlli& modulo, const Descrizione& disegno);
@@ -72,15 +79,19 @@ public:
     void ForeColor(Colore c);
     /// None: transparent.
     [[nodiscard]] std::optional<Colore> BackColor() const { return sfondo_; }
-    void BackColor(Colore c);
+    void BackColor(std::optional<Colore> c);
     /// The two colours of a shaded frame; a frame's `sfondo` gives the design value of both.
     [[nodiscard]] Colore Sfumatura1() const { return sfumatura1_; }
     [[nodiscard]] Colore Sfumatura2() const { return sfumatura2_; }
     void Sfumatura1(Colore c);
     void Sfumatura2(Colore c);
-    /// Picture in the resources, or a file's path.
+    /// Picture in the resources by its bare name, or a file's path, which has a separator; empty for none. A
+    /// file is read at each assignment. A view throws Guasto 53 where there is no such file, 481 where it is
+    /// no picture.
     [[nodiscard]] const std::string& Figura() const { return figura_; }
     void Figura(std::string nome);
+    [[nodiscard]] Adattamento Adatta() const { return adatta_; }
+    void Adatta(Adattamento modo);
     /// Brings the control in front of its siblings.
     void ZOrder();
     /// Gives it the keyboard focus, if it can take it now (visible and enabled, its window shown).
@@ -104,6 +115,7 @@ private:
     std::optional<Colore> sfondo_;
     Colore sfumatura1_, sfumatura2_;
     std::string figura_;
+    Adattamento adatta_ = Adattamento::Intera;
 };
 
 /// All controls of one window, from its layout. Not copied: views and logic hold references.

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "platform/colore.h"
+#include "platform/misure.h"
+
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <string_view>
 
-#include "platform/colore.h"
-#include "platform/misure.h"
-
-/// Windows as tables: a constexpr row a control, in twips as drawn at the design, in order of creation, which is
-/// the order from back to front.
+/// Windows as tables: a constexpr row a control, in twips as drawn at the design, in order of creation, which
+/// is the order from back to front.
 namespace lumigrafo {
 
 enum class Tipo : std::uint8_t {
@@ -38,10 +38,10 @@ inline constexpr int kSenzaIndice = -1;
 /// One control of a window.
 struct Descrizione {
     Tipo tipo = Tipo::Etichetta;
-    std::string_view nome;
+    std::string_view nome{};
     int indice = kSenzaIndice; ///< place in its control array
-    std::string_view padre;    ///< `nome` or `nome(indice)` of the container; empty: the window
-    Rettangolo rett;           ///< within the container
+    std::string_view padre{};  ///< `nome` or `nome(indice)` of the container; empty: the window
+    Rettangolo rett{};         ///< within the container
     Carattere carattere{};
     Allineamento allineamento = Allineamento::Sinistra;
     Colore testo = kNero;

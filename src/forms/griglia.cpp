@@ -1,9 +1,9 @@
 #include "forms/griglia.h"
 
+#include "platform/guasto.h"
+
 #include <algorithm>
 #include <utility>
-
-#include "platform/guasto.h"
 
 namespace lumigrafo {
 
@@ -13,7 +13,8 @@ void Griglia::annuncia(int riga, int colonna) const {
 }
 
 void Griglia::Rows(int righe) {
-    celle_.resize(static_cast<std::size_t>(std::max(righe, 0)), std::vector<Cella>(static_cast<std::size_t>(colonne_)));
+    celle_.resize(static_cast<std::size_t>(std::max(righe, 0)),
+                  std::vector<Cella>(static_cast<std::size_t>(colonne_)));
     riga_ = std::min(riga_, Rows() - 1);
     annuncia();
 }
@@ -54,7 +55,10 @@ const std::string& Griglia::testo(int riga, int colonna) const {
 }
 
 void Griglia::testo(int riga, int colonna, std::string testo) {
-    cella(riga, colonna).testo = std::move(testo);
+    Cella& c = cella(riga, colonna);
+    if (c.testo == testo)
+        return; // an equal value repaints nothing
+    c.testo = std::move(testo);
     annuncia(riga, colonna);
 }
 
@@ -62,15 +66,21 @@ std::optional<Colore> Griglia::sfondo(int riga, int colonna) const {
     return cella(riga, colonna).sfondo;
 }
 
-void Griglia::sfondo(int riga, int colonna, Colore c) {
-    cella(riga, colonna).sfondo = c;
+void Griglia::sfondo(int riga, int colonna, std::optional<Colore> c) {
+    Cella& scelta = cella(riga, colonna);
+    if (scelta.sfondo == c)
+        return;
+    scelta.sfondo = c;
     annuncia(riga, colonna);
 }
 
 void Griglia::corrente(int riga, int colonna) {
+    const int rigaPrima = riga_, colonnaPrima = colonna_;
     riga_ = std::clamp(riga, -1, Rows() - 1);
     colonna_ = std::clamp(colonna, -1, colonne_ - 1);
-    annuncia();
+    for (const auto& [r, c] : {std::pair(rigaPrima, colonnaPrima), std::pair(riga_, colonna_)})
+        if (r >= 0 && c >= 0)
+            annuncia(r, c);
 }
 
 void Griglia::coloreSelezione(Colore c) {

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "forms/descrizione.h"
+
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "forms/descrizione.h"
-
 namespace lumigrafo {
 
-/// The cells of an order grid: texts with a colour a cell, a current cell, and the measures of columns and rows.
-/// Row and column count from 0. Access outside throws Guasto 9.
+/// The cells of an order grid: texts with a colour a cell, a current cell, and the measures of columns and
+/// rows. Row and column count from 0. Access outside throws Guasto 9.
 class Griglia {
 public:
     explicit Griglia(int colonne = 3) : colonne_(colonne) {}
@@ -27,7 +27,8 @@ public:
     [[nodiscard]] const std::string& testo(int riga, int colonna) const;
     void testo(int riga, int colonna, std::string testo);
     [[nodiscard]] std::optional<Colore> sfondo(int riga, int colonna) const;
-    void sfondo(int riga, int colonna, Colore c);
+    /// None gives the grid's own colour back.
+    void sfondo(int riga, int colonna, std::optional<Colore> c);
 
     /// The current cell; -1 where there is none. Dropping its row moves it to the last one.
     [[nodiscard]] int Row() const { return riga_; }

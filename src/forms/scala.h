@@ -10,8 +10,9 @@ struct RettangoloPixel {
     friend constexpr bool operator==(const RettangoloPixel&, const RettangoloPixel&) = default;
 };
 
-/// How a window's controls follow its size: positions and sizes with each axis, type with the smaller of the two.
-/// It always starts from the design measures, so that any number of resizes and back ends where it began.
+/// How a window's controls follow its size: positions and sizes with each axis, type with the smaller of the
+/// two. It always starts from the design measures, so that any number of resizes and back ends where it
+/// began.
 class Scala {
 public:
     /// `larghezza` and `altezza`: client size now, in pixels. The layout's design size must be above 0.
@@ -23,6 +24,8 @@ public:
     [[nodiscard]] int carattere(double punti) const;
     [[nodiscard]] int larghezza(Twip t) const;
     [[nodiscard]] int altezza(Twip t) const;
+    /// A width not yet rounded, for those that are summed up.
+    [[nodiscard]] double larghezzaEsatta(Twip t) const { return t.v * x_; }
 
 private:
     double x_, y_;

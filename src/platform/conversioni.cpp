@@ -1,12 +1,14 @@
 #include "platform/conversioni.h"
 
+#include "platform/guasto.h"
+#include "platform/utf8.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <optional>
-
-#include "platform/guasto.h"
 
 namespace lumigrafo {
 
@@ -16,8 +18,8 @@ bool cifra(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// &H1F and &O17, as 16 or 32-bit patterns.
-std::optional<double> daBase(std::string_view t) {
+/// &H1F and &O17, as 16 or 32-bit patterns; with `coda` something else may follow the digits.
+std::optional<double> daBase(std::string_view t, bool coda) {
     if (t.size() < 3 || t[0] != '&')
         return std::nullopt;
     const char base = maiuscolo(t.substr(1, 1))[0];
@@ -26,17 +28,41 @@ std::optional<double> daBase(std::string_view t) {
     std::uint32_t n = 0;
     const auto* fine = t.data() + t.size();
     const auto [p, e] = std::from_chars(t.data() + 2, fine, n, base == 'H' ? 16 : 8);
-    if (e != std::errc() || p != fine)
+    if (e != std::errc() || (p != fine && !coda))
         return std::nullopt;
     // Four hexadecimal digits with the high bit set are a negative 16-bit number.
     return n <= 0xFFFF ? static_cast<std::int16_t>(n) : static_cast<std::int32_t>(n);
 }
 
+struct Letto {
+    double valore; ///< infinite where the number is too large, 0 where it is too small
+    bool intero;   ///< nothing stands behind the number
+};
+
+/// The unsigned number at the head of `t`, with the point as its decimal sign and `e` before an exponent.
+std::optional<Letto> leggiDecimale(std::string_view t) {
+    if (t.empty() ||
+        !(cifra(t[0]) || t[0] == '.')) // from_chars would take "inf" and "nan", which are words here
+        return std::nullopt;
+    double v = 0;
+    const auto [p, errore] = std::from_chars(t.data(), t.data() + t.size(), v);
+    if (errore == std::errc::invalid_argument)
+        return std::nullopt;
+    if (errore == std::errc::result_out_of_range) {
+        const std::string_view n(t.data(), static_cast<std::size_t>(p - t.data()));
+        const bool piccolo = n.find("e-") != n.npos || n.starts_with('.') || n.starts_with("0.");
+        v = piccolo ? 0 : std::numeric_limits<double>::infinity();
+    }
+    return Letto{v, p == t.data() + t.size()};
+}
+
 /// Digits with their group and decimal signs, brought to a point as the one decimal sign.
 std::optional<std::string> mantissa(std::string_view t) {
     const auto ultimo = t.find_last_of(".,");
-    const bool decimale =
-        ultimo != std::string_view::npos && t.find(t[ultimo]) == ultimo; // twice the same sign: groups
+    const bool segni = ultimo != t.npos;
+    const bool decimale = segni && t.find(t[ultimo]) == ultimo; // twice the same sign: groups
+    if (segni && !decimale && t.find(t[ultimo] == '.' ? ',' : '.') != t.npos)
+        return std::nullopt; // a decimal sign amid groups
     std::string pulita;
     bool cifre = false;
     for (std::size_t i = 0; i < t.size(); ++i) {
@@ -54,41 +80,50 @@ std::optional<std::string> mantissa(std::string_view t) {
     return cifre ? std::optional(pulita) : std::nullopt;
 }
 
+bool segno(char c) {
+    return c == '-' || c == '+';
+}
+
+/// Takes one sign off the head of `t`, or else off its end; returns what it multiplies by.
+double staccaSegno(std::string& t) {
+    double fattore = 1;
+    if (!t.empty() && segno(t.front())) {
+        fattore = t.front() == '-' ? -1 : 1;
+        t = trim(std::string_view(t).substr(1));
+    } else if (!t.empty() && segno(t.back()) && t.find_first_of("eEdD") == t.npos) {
+        fattore = t.back() == '-' ? -1 : 1;
+        t = trim(std::string_view(t).substr(0, t.size() - 1));
+    }
+    return fattore;
+}
+
+/// Takes the exponent off the end of `t`: empty where there is none, nothing where it is malformed.
+std::optional<std::string> staccaEsponente(std::string& t) {
+    const auto e = t.find_first_of("eEdD");
+    if (e == t.npos)
+        return std::string();
+    std::string cifre = t.substr(e + 1);
+    t.resize(e);
+    const bool negativo = cifre.starts_with('-');
+    if (!cifre.empty() && segno(cifre.front()))
+        cifre.erase(0, 1);
+    if (cifre.empty() || !std::all_of(cifre.begin(), cifre.end(), cifra))
+        return std::nullopt;
+    return (negativo ? "e-" : "e+") + cifre;
+}
+
+/// The whole text as a number; infinite where it is too large for one.
 std::optional<double> numero(std::string_view testo) {
-    const std::string senzaBlank = trim(testo);
-    std::string_view t = senzaBlank;
-    if (const auto base = daBase(t))
+    std::string t = trim(testo);
+    if (const auto base = daBase(t, false))
         return base;
-    double segno = 1;
-    if (!t.empty() && (t.front() == '-' || t.front() == '+')) {
-        segno = t.front() == '-' ? -1 : 1;
-        t.remove_prefix(1);
-    } else if (!t.empty() && (t.back() == '-' || t.back() == '+') && t.find_first_of("eEdD") == t.npos) {
-        segno = t.back() == '-' ? -1 : 1;
-        t.remove_suffix(1);
-    }
-    std::string esponente;
-    if (const auto e = t.find_first_of("eEdD"); e != std::string_view::npos) {
-        std::string_view coda = t.substr(e + 1);
-        t = t.substr(0, e);
-        const bool negativo = !coda.empty() && coda.front() == '-';
-        if (!coda.empty() && (coda.front() == '-' || coda.front() == '+'))
-            coda.remove_prefix(1);
-        if (coda.empty() || !std::all_of(coda.begin(), coda.end(), cifra))
-            return std::nullopt;
-        esponente = (negativo ? "e-" : "e+") + std::string(coda);
-    }
+    const double fattore = staccaSegno(t);
+    const auto esponente = staccaEsponente(t);
     const auto m = mantissa(t);
-    if (!m)
+    if (!esponente || !m)
         return std::nullopt;
-    const std::string intero = *m + esponente;
-    double v = 0;
-    const auto [p, errore] = std::from_chars(intero.data(), intero.data() + intero.size(), v);
-    if (errore == std::errc::result_out_of_range && esponente.starts_with("e-"))
-        return 0; // too small to tell from nothing
-    if (errore != std::errc() || p != intero.data() + intero.size())
-        return std::nullopt;
-    return segno * v;
+    const auto n = leggiDecimale(*m + *esponente);
+    return n && n->intero ? std::optional(fattore * n->valore) : std::nullopt;
 }
 
 std::optional<bool> parolaDiVerita(std::string_view testo) {
@@ -125,26 +160,24 @@ std::string trim(std::string_view testo) {
 }
 
 bool isNumeric(std::string_view testo) {
-    return numero(testo).has_value();
+    const auto n = numero(testo);
+    return n && std::isfinite(*n);
 }
 
 double val(std::string_view testo) {
     std::string t;
     std::copy_if(testo.begin(), testo.end(), std::back_inserter(t),
                  [](char c) { return c != ' ' && c != '\t' && c != '\n' && c != '\r'; });
-    if (const auto base = daBase(t))
+    if (const auto base = daBase(t, true))
         return *base;
-    const char* inizio = t.data() + (t.starts_with('+') ? 1 : 0);
-    double v = 0;
-    // from_chars would take "inf" and "nan", which are words here.
-    const std::string_view resto(inizio);
-    const auto primo = resto.find_first_not_of("+-");
-    if (primo == std::string_view::npos || !(cifra(resto[primo]) || resto[primo] == '.'))
-        return 0;
-    const auto esito = std::from_chars(inizio, t.data() + t.size(), v);
-    if (esito.ec == std::errc::result_out_of_range)
+    const bool conSegno = !t.empty() && segno(t.front());
+    const double fattore = conSegno && t.front() == '-' ? -1 : 1;
+    std::replace_if(
+        t.begin(), t.end(), [](char c) { return c == 'E' || c == 'd' || c == 'D'; }, 'e');
+    const auto n = leggiDecimale(std::string_view(t).substr(conSegno ? 1 : 0));
+    if (n && !std::isfinite(n->valore))
         throw Guasto(guasti::kSovraccarico);
-    return esito.ec == std::errc() ? v : 0;
+    return n ? fattore * n->valore : 0;
 }
 
 double arrotonda(double valore) {
@@ -156,8 +189,11 @@ double arrotonda(double valore) {
 }
 
 double aDoppio(std::string_view testo) {
-    if (const auto n = numero(testo))
+    if (const auto n = numero(testo)) {
+        if (!std::isfinite(*n))
+            throw Guasto(guasti::kSovraccarico);
         return *n;
+    }
     if (const auto v = parolaDiVerita(testo))
         return *v ? kVero : kFalso;
     throw Guasto(guasti::kTipo);
@@ -197,9 +233,10 @@ std::int16_t somma16(std::int16_t a, std::int16_t b) {
 
 std::string aTesto(float valore, char separatore) {
     char testo[32];
+    // Adding 0 turns the negative zero into the plain one.
     const auto [fine, errore] =
-        std::to_chars(testo, testo + sizeof testo, valore, std::chars_format::general, 7);
-    std::string t(testo, errore == std::errc() ? fine : testo);
+        std::to_chars(testo, testo + sizeof testo, valore + 0.0F, std::chars_format::general, 7);
+    std::string t = maiuscolo({testo, errore == std::errc() ? fine : testo}); // an exponent is written with E
     std::replace(t.begin(), t.end(), '.', separatore);
     return t;
 }
@@ -230,8 +267,10 @@ bool ugualeSenzaMaiuscole(std::string_view a, std::string_view b) {
 }
 
 std::size_t caratteri(std::string_view utf8) {
-    return static_cast<std::size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+    std::size_t quanti = 0;
+    for (std::size_t i = 0; i < utf8.size(); ++quanti)
+        (void)prossimoCarattere(utf8, i);
+    return quanti;
 }
 
 } // namespace lumigrafo

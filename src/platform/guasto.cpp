@@ -20,6 +20,8 @@ const char* testoDi(int numero) {
         return "Errore di I/O della periferica";
     case guasti::kPermessoNegato:
         return "Autorizzazione negata";
+    case guasti::kAccesso:
+        return "Errore nell'accesso al percorso o al file";
     case guasti::kPercorso:
         return "Impossibile trovare il percorso";
     case guasti::kOggettoMancante:
@@ -37,7 +39,6 @@ const char* testoDi(int numero) {
 
 Guasto::Guasto(int numero) : Guasto(numero, testoDi(numero)) {}
 
-Guasto::Guasto(int numero, std::string descrizione)
-    : numero_(numero), descrizione_(std::move(descrizione)) {}
+Guasto::Guasto(int numero, std::string descrizione) : numero_(numero), descrizione_(std::move(descrizione)) {}
 
 } // namespace lumigrafo

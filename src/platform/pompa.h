@@ -10,8 +10,8 @@ enum class Ammessi {
     SenzaTastiera, ///< keys stay in the queue, so that a scanner's next code isn't lost
 };
 
-/// Lets pending window events through in the middle of a routine. Everything can happen inside: a click, a timer,
-/// a request of a cash desk, the end of the board window.
+/// Lets pending window events through in the middle of a routine. Everything can happen inside: a click, a
+/// timer, a request of a cash desk, the end of the board window.
 class Pompa {
 public:
     virtual ~Pompa() = default;

@@ -13,7 +13,8 @@ enum class StileFinestra { Normale, Ridotta };
 class Processi {
 public:
     virtual ~Processi() = default;
-    /// Asks every other process of exactly this name (with or without ".exe") to end. Returns how many were found.
+    /// Asks every other process of exactly this name (with or without ".exe") to end. Returns how many were
+    /// found.
     virtual int termina(const std::string& nome) = 0;
     /// Starts a program and doesn't wait for it. Throws Guasto 53 where it can't be started.
     virtual void avvia(const std::filesystem::path& programma, const std::vector<std::string>& argomenti,

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "platform/misure.h"
+
+#include <vector>
 
 namespace lumigrafo {
 

@@ -8,8 +8,8 @@ namespace lumigrafo {
 class Sistema {
 public:
     virtual ~Sistema() = default;
-    /// True if another process of this program already runs from the same program folder. The first call takes
-    /// the place for this process, until it ends in whatever way.
+    /// True if another process of this program already runs from the same program folder. The first call
+    /// takes the place for this process, until it ends in whatever way.
     virtual bool istanzaPrecedente() = 0;
     /// One echo of one hop to a dotted address; a host name is no address and fails.
     virtual bool eco(const std::string& indirizzo) = 0;

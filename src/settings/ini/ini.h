@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/conversioni.h"
+
 #include <concepts>
 #include <cstdint>
 #include <filesystem>
@@ -7,10 +9,9 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/conversioni.h"
-
-/// The settings store: INI text files of sections and keys. Nothing is cached: each read goes to the file and each
-/// key is written by a call of its own. Nothing is reported either: a file that can't be read gives the defaults.
+/// The settings store: INI text files of sections and keys. Nothing is cached: each read goes to the file and
+/// each key is written by a call of its own. Nothing is reported either: a file that can't be read gives the
+/// defaults.
 namespace lumigrafo {
 
 /// A value or a default as its text: a number stands for its decimal text, a truth value for its word.
@@ -24,22 +25,22 @@ public:
     template <std::same_as<bool> T>
     ValoreIni(T valore) : testo_(aTesto(valore)) {}
     template <std::integral T>
-        requires(!std::same_as<T, bool>)
-    ValoreIni(T valore) : testo_(std::to_string(valore)) {}
+    requires(!std::same_as<T, bool>) ValoreIni(T valore) : testo_(std::to_string(valore)) {}
     [[nodiscard]] const std::string& testo() const { return testo_; }
 
 private:
     std::string testo_;
 };
 
-/// Reads a key; the path is that of the file itself. Blanks at both ends of the first three arguments are taken off in
-/// the caller's strings. Returns at most 255 characters (bytes of code page 1252), without blanks at the ends; a
-/// key that is missing, empty or blank gives the default, trimmed. UTF-8.
+/// Reads a key; the path is that of the file itself. Blanks at both ends of the first three arguments are
+/// taken off in the caller's strings. Returns at most 255 characters (bytes of code page 1252), without
+/// blanks at the ends; a key that is missing, empty or blank gives the default, trimmed. UTF-8.
 [[nodiscard]] std::string LeggiIni(std::string& file, std::string& sezione, std::string& chiave,
                                    const ValoreIni& predefinito = {});
 
-/// Writes a key, making the file and the section as needed and keeping all else in the file as it is. Blanks at
-/// both ends of all four strings are taken off in the caller's strings. Characters that code page 1252 lacks become
+/// Writes a key, making the file and the section as needed and keeping all else in the file as it is. Blanks
+/// at both ends of all four strings are taken off in the caller's strings. Characters that code page 1252
+/// lacks become
 /// '?'. Returns nonzero if it was written.
 std::int32_t ScriviIni(std::string& file, std::string& sezione, std::string& chiave, std::string& valore);
 

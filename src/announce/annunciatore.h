@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+namespace lumigrafo {
+
+/// The voice, as the console uses it.
+class Annunciatore {
+public:
+    virtual ~Annunciatore() = default;
+    /// Makes the engine ready and chooses its voice; called once, and only where the voice is on.
+    virtual void ScegliVoce() = 0;
+    /// Speaks the text when those before it are done. Never empty.
+    virtual void AccodaAnnuncio(const std::string& testo) = 0;
+};
+
+/// The voice, as the cash-desk server and the message dialog use it.
+class Parlante {
+public:
+    virtual ~Parlante() = default;
+    /// Speaks the text at once, over anything in progress, and leaves the queue alone. Throws Guasto 91 where
+    /// the voice was never made ready.
+    virtual void Parla(const std::string& testo) = 0;
+};
+
+/// For a station without a voice: takes every call and says nothing.
+class AnnunciatoreMuto : public Annunciatore {
+public:
+    void ScegliVoce() override {}
+    void AccodaAnnuncio(const std::string&) override {}
+};
+
+} // namespace lumigrafo

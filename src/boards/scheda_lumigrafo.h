@@ -1,0 +1,17 @@
+#pragma once
+
+#include "boards/scheda.h"
+
+namespace lumigrafo {
+
+/// The standard board, `frmLumigrafo`: three panels, one a department. A department that isn't in use stays
+/// on show with its colours and an empty title.
+class SchedaLumigrafo : public Scheda {
+public:
+    explicit SchedaLumigrafo(const ServiziSchede& servizi);
+
+protected:
+    void vesti() override;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "console/avvio.h"
+#include "console/ripetizione.h"
+#include "console/scansione.h"
+
+namespace lumigrafo {
+
+/// The console apart from its window: the running state, its one owner, and the routines that work on it. The window
+/// hands its events on to here.
+class Console {
+public:
+    Console(const PorteConsole& porte, FinestraConsole& finestra, FabbricaVideata fabbrica);
+
+    [[nodiscard]] Controlli& controlli() { return controlli_; }
+    [[nodiscard]] const Controlli& controlli() const { return controlli_; }
+    [[nodiscard]] StatoConsole& stato() { return stato_; }
+    [[nodiscard]] const StatoConsole& stato() const { return stato_; }
+
+    void carica() { avvio_.carica(); }
+    void attiva() { avvio_.attiva(); }
+    void scarica() { avvio_.scarica(); }
+
+    /// A click on a button, label or box, by name and index. Names without an action are ignored.
+    void clic(std::string_view nome, int indice);
+    /// A click on the current cell of a grid.
+    void clicGriglia(int quadrante);
+    /// A pointer event on a grid: the periodic rebuild waits as long as the pointer is moving.
+    void puntatoreSuGriglia();
+    /// A key press, before any control sees it; 0 for a key without a character. True: it goes no further.
+    bool tasto(char32_t carattere) { return scansione_.tasto(carattere); }
+
+    void mnuDatabase();
+    void mnuImposta();
+    void mnuFiscale();
+
+private:
+    void cmdAggiorna();
+    void cmdAvanti();
+    void cmdComunicazione();
+    void cmdRipristina();
+    void allargaGriglia(int quadrante);
+
+    StatoConsole stato_;
+    Controlli controlli_;
+    ContestoConsole contesto_;
+    Caricatore caricatore_;
+    DispositoreConsole dispositore_;
+    Chiamata chiamata_;
+    Scansione scansione_;
+    Ripetizione ripetizione_;
+    Comandi comandi_;
+    std::unique_ptr<Timer> Timer1_;
+    Avvio avvio_;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,63 @@
+#pragma once
+
+#include <string_view>
+
+#include "announce/annunciatore.h"
+#include "announce/fiscale.h"
+#include "settings/dialoghi.h"
+#include "console/finestra_console.h"
+#include "console/stato.h"
+#include "forms/controlli.h"
+#include "links/collegamenti.h"
+#include "platform/alimentazione.h"
+#include "platform/ambiente.h"
+#include "platform/avvisi.h"
+#include "platform/orologio.h"
+#include "platform/pompa.h"
+#include "platform/processi.h"
+#include "platform/sistema.h"
+#include "platform/timer.h"
+#include "settings/ini/ini.h"
+#include "settings/messaggi.h"
+
+namespace lumigrafo {
+
+/// The ports that the console's routines work through. Made once by the program, or by a test with fakes.
+struct PorteConsole {
+    const Ambiente& ambiente;
+    Orologio& orologio;
+    Pompa& pompa;
+    Timers& timers;
+    Avvisi& avvisi;
+    Messaggi& messaggi;
+    Processi& processi;
+    Alimentazione& alimentazione;
+    Sistema& sistema;
+    Uscita& uscita;
+    Dialoghi& dialoghi;
+    Annunciatore& annunciatore;
+    Fiscale& fiscale;
+    LumigrafiAndroid& android;
+    ServerCasse& server;
+};
+
+/// What each routine of the console holds: the running state, the window's controls and the ports.
+struct ContestoConsole {
+    StatoConsole& stato;
+    Controlli& controlli;
+    FinestraConsole& finestra;
+    PorteConsole porte;
+    FileIni impostazioni{porte.ambiente.file(kFileImpostazioni)};
+    FileIni videata{porte.ambiente.file(kFileVideata)};
+    FileIni ultimi{porte.ambiente.file(kFileUltimiChiamati)};
+
+    /// Lets pending events through. While a scanned code is being worked on, keys stay in the queue: they belong to
+    /// the next code, and `txtBarCode` is emptied at the end.
+    void cedi(std::string_view punto) {
+        porte.pompa.cedi(punto, stato.BarCodeInCorso ? Ammessi::SenzaTastiera : Ammessi::Tutti);
+    }
+    /// A scanner needs this field: nearly every action gives it the focus back.
+    void fuocoSuTxtBarCode() { controlli("txtBarCode").SetFocus(); }
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,88 @@
+#include "console/qt/frmGestione.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMenuBar>
+
+#include "forms/qt/griglia_widget.h"
+
+namespace lumigrafo {
+
+frmGestione::frmGestione() {
+    setObjectName(QStringLiteral("frmGestione"));
+    setWindowTitle(QStringLiteral("Lumigrafo"));
+    setWindowIcon(QIcon(QStringLiteral(":/figure/icona.svg")));
+    setWindowState(Qt::WindowMaximized);
+    creaMenu();
+}
+
+frmGestione::~frmGestione() = default;
+
+void frmGestione::creaMenu() {
+    voce("mnuImposta", QStringLiteral("Imposta"), [this] { console_->mnuImposta(); });
+    voce("mnuDatabase", QStringLiteral("Database"), [this] { console_->mnuDatabase(); });
+    mnuFiscale_ = voce("mnuFiscale", QStringLiteral("Utilità Fiscali"), [this] { console_->mnuFiscale(); });
+}
+
+QAction* frmGestione::voce(const char* nome, const QString& testo, std::function<void()> azione) {
+    QAction* voce = menuBar()->addAction(testo);
+    voce->setObjectName(QString::fromLatin1(nome));
+    connect(voce, &QAction::triggered, this, [azione = std::move(azione)] { azione(); });
+    return voce;
+}
+
+void frmGestione::collega(Console& console) {
+    console_ = &console;
+    contenuto_ = std::make_unique<Finestra>(console.controlli(), this);
+    contenuto_->setObjectName(QStringLiteral("contenuto")); // the window itself bears the layout's name
+    setCentralWidget(contenuto_.get());
+    contenuto_->alClic([this](const Controllo& c) { console_->clic(c.disegno().nome, c.disegno().indice); });
+    contenuto_->alTasto([this](const QKeyEvent& evento) { return tasto(evento); });
+    contenuto_->allaAttivazione([this] { console_->attiva(); });
+    contenuto_->allaChiusura([this] {
+        console_->scarica();
+        return true;
+    });
+    for (int q = 0; q < kQuadranti; ++q) {
+        GrigliaWidget& grid =
+            contenuto_->collegaGriglia("grid", q, console.stato().grid[static_cast<std::size_t>(q)]);
+        grid.alClic([this, q](int riga, int) {
+            if (riga >= 0)
+                console_->clicGriglia(q);
+        });
+        grid.alPuntatore([this] { console_->puntatoreSuGriglia(); });
+    }
+}
+
+bool frmGestione::tasto(const QKeyEvent& evento) {
+    const QString testo = evento.text();
+    const char32_t carattere = testo.isEmpty() ? U'\0' : static_cast<char32_t>(testo.toUcs4().constFirst());
+    // Keys without a character (Shift among them) are no key presses to the console: a scanner sends Shift before
+    // each capital.
+    return carattere != U'\0' && console_->tasto(carattere);
+}
+
+void frmGestione::Mostra() {
+    if (!isVisible())
+        showMaximized();
+    if (isMinimized())
+        setWindowState((windowState() & ~Qt::WindowMinimized) | Qt::WindowActive);
+    raise();
+    activateWindow();
+}
+
+void frmGestione::InPrimoPiano() {
+    raise();
+    activateWindow();
+}
+
+void frmGestione::Ridisegna() {
+    contenuto_->repaint();
+}
+
+void frmGestione::mnuFiscaleVisibile(bool visibile) {
+    mnuFiscale_->setVisible(visibile);
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,54 @@
+#include "data/dao.h"
+
+#include <filesystem>
+
+namespace lumigrafo {
+
+std::unique_ptr<Recordset> Database::OpenRecordset(const std::string& sorgente, int tipo) {
+    if (!sessione_->aperta())
+        throw erroreDao(dao::kOggettoNonValido);
+    if (tipo != dao::dbOpenDynaset)
+        throw erroreDao(dao::kArgomento);
+    return std::make_unique<Recordset>(sessione_, sorgente);
+}
+
+std::unique_ptr<Database> Workspace::OpenDatabase(const std::string& percorso) {
+    auto sessione = std::make_shared<Sessione>(std::filesystem::path(percorso), attesa_);
+    std::erase_if(sessioni_, [](const auto& s) { return s.expired(); });
+    sessioni_.push_back(sessione);
+    return std::make_unique<Database>(std::move(sessione));
+}
+
+std::vector<std::shared_ptr<Sessione>> Workspace::aperte() {
+    std::vector<std::shared_ptr<Sessione>> v;
+    for (const auto& debole : sessioni_)
+        if (auto s = debole.lock(); s && s->aperta())
+            v.push_back(std::move(s));
+    return v;
+}
+
+void Workspace::BeginTrans() {
+    for (const auto& s : aperte())
+        s->motore().blocca({}, 0);
+}
+
+void Workspace::CommitTrans() {
+    for (const auto& s : aperte())
+        s->motore().sblocca();
+}
+
+void Workspace::Rollback() {
+    for (const auto& s : aperte()) {
+        s->motore().annulla();
+        s->modificato();
+    }
+}
+
+Workspace& DBEngine::Workspaces(int indice) {
+    static Workspace predefinito;
+    if (indice != 0)
+        throw erroreDao(dao::kElementoMancante);
+    return predefinito;
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "forms/qt/vista.h"
+
+#include <QLineEdit>
+
+namespace lumigrafo {
+
+/// A text box of one line; its text is the control's caption.
+class CasellaWidget final : public QLineEdit, public Vista {
+public:
+    explicit CasellaWidget(QWidget* padre) : QLineEdit(padre) {}
+    void mostra(const Controllo& controllo, const Resa& resa) override;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,69 @@
+#include "forms/qt/costruttore.h"
+
+#include "forms/qt/bottone.h"
+#include "forms/qt/casella.h"
+#include "forms/qt/etichetta.h"
+#include "forms/qt/griglia_widget.h"
+#include "forms/qt/immagine.h"
+#include "forms/qt/riquadro.h"
+
+namespace lumigrafo {
+
+namespace {
+
+template <typename W>
+Costruito superficie(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    auto* w = new W(c, padre);
+    w->alClic([&c, &segnali] { segnali.clic(c); });
+    return {w, w};
+}
+
+Costruito immagine(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    Costruito fatto = superficie<ImmagineWidget>(c, padre, segnali);
+    fatto.carica = [w = static_cast<ImmagineWidget*>(fatto.widget), &c] { w->carica(c); };
+    return fatto;
+}
+
+Costruito bottone(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    auto* w = new BottoneWidget(padre);
+    QObject::connect(w, &QAbstractButton::clicked, w, [&c, &segnali] { segnali.clic(c); });
+    return {w, w, [w, &c] { w->carica(c); }};
+}
+
+Costruito casella(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    auto* w = new CasellaWidget(padre);
+    QObject::connect(w, &QLineEdit::textEdited, w,
+                     [&c, &segnali](const QString& testo) { segnali.testo(c, testo.toStdString()); });
+    return {w, w};
+}
+
+Costruito griglia(QWidget* padre) {
+    auto* w = new GrigliaWidget(padre);
+    return {w, w};
+}
+
+} // namespace
+
+Costruito costruisci(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    switch (c.disegno().tipo) {
+    case Tipo::Etichetta:
+        return superficie<EtichettaWidget>(c, padre, segnali);
+    case Tipo::Riquadro:
+        return superficie<RiquadroWidget>(c, padre, segnali);
+    case Tipo::Cornice:
+        return superficie<CorniceWidget>(c, padre, segnali);
+    case Tipo::Immagine:
+        return immagine(c, padre, segnali);
+    case Tipo::Bottone:
+        return bottone(c, padre, segnali);
+    case Tipo::Casella:
+        return casella(c, padre, segnali);
+    case Tipo::Griglia:
+        return griglia(padre);
+    case Tipo::Linea:
+        return superficie<LineaWidget>(c, padre, segnali);
+    }
+    return {};
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "forms/qt/superficie.h"
+#include "forms/qt/testo_adattato.h"
+
+namespace lumigrafo {
+
+/// A label. Without a back colour only its text is painted, over whatever lies behind.
+class EtichettaWidget final : public Superficie {
+public:
+    using Superficie::Superficie;
+    void mostra(const Controllo& controllo, const Resa& resa) override;
+    [[nodiscard]] const TestoAdattato& testo() const { return testo_; }
+    /// Where the text goes: all of the label, less a margin where a coloured edge would touch the text.
+    [[nodiscard]] QRect area() const;
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    TestoAdattato testo_;
+    Colore tinta_;
+    std::optional<Colore> sfondo_;
+    int raggio_ = 0;
+};
+
+} // namespace lumigrafo

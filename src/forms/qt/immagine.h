@@ -1,0 +1,25 @@
+#pragma once
+
+#include "forms/qt/figura.h"
+#include "forms/qt/superficie.h"
+
+namespace lumigrafo {
+
+/// A picture of the resources or a file's, over the control's back colour.
+class ImmagineWidget final : public Superficie {
+public:
+    using Superficie::Superficie;
+    void mostra(const Controllo& controllo, const Resa& resa) override;
+    /// Reads the picture that the control names now; see Figura::carica for its failures.
+    void carica(const Controllo& controllo);
+
+protected:
+    void paintEvent(QPaintEvent* evento) override;
+
+private:
+    Figura figura_;
+    Adattamento modo_ = Adattamento::Intera;
+    std::optional<Colore> sfondo_;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,124 @@
+#include "forms/qt/testo_adattato.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace lumigrafo {
+
+namespace {
+
+constexpr int kPixelMinimi = 6;
+constexpr int kParoleDiFrase = 3;
+constexpr double kPassoRighe = 0.94;
+
+QFont conPixel(QFont f, int pixel) {
+    f.setPixelSize(std::max(pixel, kPixelMinimi));
+    return f;
+}
+
+/// Room that one line takes: its ink can be wider than its advance (italics) and is far less high than a
+/// line.
+QSizeF ingombro(const QString& testo, const QFont& carattere) {
+    const QFontMetricsF m(carattere);
+    const QRectF inchiostro = m.tightBoundingRect(testo);
+    return {std::max(m.horizontalAdvance(testo), inchiostro.width()), inchiostro.height()};
+}
+
+QFont inUnaRiga(const QString& testo, const QFont& carattere, QSize area) {
+    const QSizeF naturale = ingombro(testo, carattere);
+    const double fattore = std::min({1.0, area.width() / std::max(1.0, naturale.width()),
+                                     area.height() / std::max(1.0, naturale.height())});
+    if (fattore == 1.0)
+        return carattere;
+    QFont f = conPixel(carattere, static_cast<int>(carattere.pixelSize() * fattore));
+    // Hinted widths don't shrink quite in proportion.
+    while (f.pixelSize() > kPixelMinimi && ingombro(testo, f).width() > area.width())
+        f.setPixelSize(f.pixelSize() - 1);
+    return f;
+}
+
+QFont inPiuRighe(const QString& testo, const QFont& carattere, QSize area, int modo) {
+    QFont f = carattere;
+    const QRectF larga(0, 0, area.width(), 1e6);
+    for (;;) {
+        const QRectF occupato = QFontMetricsF(f).boundingRect(larga, modo, testo);
+        if (f.pixelSize() <= kPixelMinimi ||
+            (occupato.height() <= area.height() && occupato.width() <= area.width()))
+            return f;
+        f = conPixel(f, std::min(f.pixelSize() - 1, static_cast<int>(f.pixelSize() * kPassoRighe)));
+    }
+}
+
+} // namespace
+
+bool TestoAdattato::imposta(const QString& testo, const QFont& carattere, Allineamento allineamento) {
+    QString righe = testo;
+    righe.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    if (righe == testo_ && carattere == carattere_ && allineamento == allineamento_)
+        return false;
+    testo_ = std::move(righe);
+    carattere_ = carattere;
+    allineamento_ = allineamento;
+    misurata_ = {};
+    return true;
+}
+
+int TestoAdattato::orizzontale() const {
+    switch (allineamento_) {
+    case Allineamento::Centro:
+        return Qt::AlignHCenter;
+    case Allineamento::Destra:
+        return Qt::AlignRight;
+    case Allineamento::Sinistra:
+        break;
+    }
+    return Qt::AlignLeft;
+}
+
+void TestoAdattato::adatta(QSize area) const {
+    if (misurata_ == area)
+        return;
+    misurata_ = area;
+    const QFontMetricsF m(carattere_);
+    const auto parole = testo_.split(QLatin1Char(' '), Qt::SkipEmptyParts).size();
+    const bool frase = parole >= kParoleDiFrase && m.horizontalAdvance(testo_) > area.width() &&
+                       2 * m.height() <= area.height();
+    righe_ = frase || testo_.contains(QLatin1Char('\n'));
+    adattato_ = righe_ ? inPiuRighe(testo_, carattere_, area, orizzontale() | Qt::TextWordWrap)
+                       : inUnaRiga(testo_, carattere_, area);
+}
+
+int TestoAdattato::pixelIn(QSize area) const {
+    adatta(area);
+    return adattato_.pixelSize();
+}
+
+void TestoAdattato::disegna(QPainter& pennello, const QRect& area, const QColor& colore) const {
+    if (testo_.isEmpty() || area.isEmpty())
+        return;
+    adatta(area.size());
+    pennello.setFont(adattato_);
+    pennello.setPen(colore);
+    if (righe_) {
+        pennello.drawText(area, orizzontale() | Qt::AlignVCenter | Qt::TextWordWrap, testo_);
+        return;
+    }
+    // Capitals and figures are centred, whatever their neighbours hang below the line; then the ink is kept
+    // inside.
+    const QFontMetricsF m(adattato_);
+    const QRectF inchiostro = m.tightBoundingRect(testo_);
+    double base = area.top() + (area.height() + m.capHeight()) / 2;
+    base = std::min(base, area.top() + area.height() - inchiostro.bottom());
+    base = std::max(base, area.top() - inchiostro.top());
+    const double avanzo = area.width() - m.horizontalAdvance(testo_);
+    const double quota = allineamento_ == Allineamento::Centro   ? 0.5
+                         : allineamento_ == Allineamento::Destra ? 1
+                                                                 : 0;
+    pennello.drawText(QPointF(area.left() + std::round(avanzo * quota), std::round(base)), testo_);
+}
+
+} // namespace lumigrafo

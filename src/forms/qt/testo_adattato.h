@@ -1,0 +1,41 @@
+#pragma once
+
+#include "forms/descrizione.h"
+
+#include <QColor>
+#include <QFont>
+#include <QSize>
+#include <QString>
+
+class QPainter;
+
+namespace lumigrafo {
+
+/// A text that is always whole in its area. It stands at the middle of the height, at its own size where it
+/// fits, and smaller where it doesn't. A number or a title stays in one line; a sentence (three words or
+/// more) breaks into lines where the area has room for two of them; line ends of the text itself always
+/// break.
+class TestoAdattato {
+public:
+    /// True if anything differs from before.
+    bool imposta(const QString& testo, const QFont& carattere, Allineamento allineamento);
+    [[nodiscard]] const QString& testo() const { return testo_; }
+    [[nodiscard]] const QFont& carattere() const { return carattere_; }
+    void disegna(QPainter& pennello, const QRect& area, const QColor& colore) const;
+    /// The size at which the text is drawn in an area of that size.
+    [[nodiscard]] int pixelIn(QSize area) const;
+
+private:
+    void adatta(QSize area) const;
+    [[nodiscard]] int orizzontale() const;
+
+    QString testo_;
+    QFont carattere_;
+    Allineamento allineamento_ = Allineamento::Sinistra;
+    // Worked out at the first painting, since a label may change more often than it is seen.
+    mutable QSize misurata_;
+    mutable QFont adattato_;
+    mutable bool righe_ = false;
+};
+
+} // namespace lumigrafo

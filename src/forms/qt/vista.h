@@ -1,0 +1,28 @@
+#pragma once
+
+#include "forms/controlli.h"
+#include "forms/scala.h"
+
+#include <QFont>
+
+class QWidget;
+
+namespace lumigrafo {
+
+/// What the window's present size makes of a control's measures.
+struct Resa {
+    Scala scala;
+    QFont carattere; ///< the control's, at the window's size
+    int raggio;      ///< of rounded corners, pixels
+};
+
+/// The widget side of one control.
+class Vista {
+public:
+    virtual ~Vista() = default;
+    /// Shows texts, type, colours and picture as they stand now, and repaints no more than the widget itself.
+    /// Position, visibility, enabling and order are the window's work.
+    virtual void mostra(const Controllo& controllo, const Resa& resa) = 0;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,62 @@
+#include "platform/qt/avvisi_qt.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace lumigrafo {
+
+namespace {
+
+QMessageBox::Icon icona(Icona i) {
+    switch (i) {
+    case Icona::Critica:
+        return QMessageBox::Critical;
+    case Icona::Domanda:
+        return QMessageBox::Question;
+    case Icona::Esclamazione:
+        return QMessageBox::Warning;
+    case Icona::Informazione:
+        return QMessageBox::Information;
+    case Icona::Nessuna:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QPushButton* bottone(QMessageBox& box, const QString& testo, QMessageBox::ButtonRole ruolo) {
+    QPushButton* b = box.addButton(testo, ruolo);
+    b->setObjectName(testo);
+    return b;
+}
+
+QWidget* finestraAttiva() {
+    if (QWidget* modale = QApplication::activeModalWidget())
+        return modale;
+    return QApplication::activeWindow();
+}
+
+} // namespace
+
+Risposta AvvisiQt::chiedi(const Avviso& avviso) {
+    QMessageBox box(finestraAttiva());
+    box.setObjectName(QStringLiteral("avviso"));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(QString::fromStdString(avviso.testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    box.setWindowTitle(avviso.titolo.empty() ? QStringLiteral("Lumigrafo")
+                                             : QString::fromStdString(avviso.titolo));
+    box.setIcon(icona(avviso.icona));
+    box.setWindowModality(Qt::ApplicationModal);
+    box.setWindowFlag(Qt::WindowStaysOnTopHint); // a board may lie over everything
+    const bool domanda = avviso.bottoni == Bottoni::SiNo;
+    QPushButton* primo = domanda ? bottone(box, QStringLiteral("Sì"), QMessageBox::YesRole)
+                                 : bottone(box, QStringLiteral("OK"), QMessageBox::AcceptRole);
+    box.setDefaultButton(primo);
+    box.setEscapeButton(domanda ? bottone(box, QStringLiteral("No"), QMessageBox::NoRole) : primo);
+    box.exec();
+    if (!domanda)
+        return Risposta::Ok;
+    return box.clickedButton() == primo ? Risposta::Si : Risposta::No;
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/avvisi.h"
+
+namespace lumigrafo {
+
+/// Message boxes above the active window. The box's objectName is `avviso`, its buttons' `OK`, `Sì` and `No`.
+/// Escape and the window's close give OK, or No to a question.
+class AvvisiQt final : public Avvisi {
+public:
+    Risposta chiedi(const Avviso& avviso) override;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+
+namespace lumigrafo {
+
+/// The dialogs around the console. Each call shows one modally and returns when it is gone.
+class Dialoghi {
+public:
+    virtual ~Dialoghi() = default;
+    virtual void frmSpegni() = 0;
+    virtual void frmDatabase() = 0;
+    virtual void frmRipristina() = 0;
+    virtual void frmInserisciNumeri() = 0;
+    virtual void frmComunicazione() = 0;
+    virtual void frmImposta() = 0;
+    /// Looks for the second monitor and puts the board there.
+    virtual void PosizionaLumigrafo() = 0;
+    /// The fiscal component's own utilities.
+    virtual void UtilitaFiscali() = 0;
+    /// True if the right code was typed.
+    virtual bool ChiediPassword(const std::string& richiesta) = 0;
+};
+
+} // namespace lumigrafo

@@ -1,0 +1,53 @@
+#include "settings/qt/finestra_modale.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QScreen>
+#include <QWindow>
+
+#include "forms/qt/finestra.h"
+
+namespace lumigrafo {
+
+namespace {
+
+/// The smallest screen that the design sizes are meant for, device-independent pixels.
+constexpr double kSchermoLarghezza = 1024;
+constexpr double kSchermoAltezza = 768;
+
+/// In the middle of the active window's screen, as large on a large screen as on a small one.
+void disponi(Finestra& finestra, const QWidget* attiva) {
+    const QRect lavoro = (attiva ? attiva->screen() : QApplication::primaryScreen())->availableGeometry();
+    const double scala =
+        std::max(1.0, std::min(lavoro.width() / kSchermoLarghezza, lavoro.height() / kSchermoAltezza));
+    QRect posto(QPoint(), (finestra.size() * scala).boundedTo(lavoro.size()));
+    posto.moveCenter(lavoro.center());
+    finestra.setGeometry(posto);
+}
+
+} // namespace
+
+void FinestraModale::esegui(Finestra& finestra) {
+    vista_ = &finestra;
+    const QWidget* attiva = QApplication::activeWindow();
+    disponi(finestra, attiva);
+    finestra.setWindowModality(Qt::ApplicationModal);
+    finestra.winId(); // makes the system's window, so that it can be tied to the one it stands over
+    finestra.windowHandle()->setTransientParent(attiva ? attiva->windowHandle() : nullptr);
+    finestra.allaChiusura([this] {
+        ciclo_.quit();
+        return true;
+    });
+    finestra.show();
+    finestra.raise();
+    finestra.activateWindow();
+    ciclo_.exec();
+}
+
+void FinestraModale::fine() {
+    vista_->hide();
+    ciclo_.quit();
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,216 @@
+#include "platform/guasto.h"
+#include "tests/boards/banco_videata.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <string>
+
+namespace lumigrafo::prova {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr Rettangolo kPosto{300, 150, 9000, 6000};
+
+TEST(CaricoVideata, senzaImpostazioni) {
+    BancoVideata banco;
+    banco.videata->Mostra();
+    EXPECT_EQ(banco.controllo("lblTitoloLumigrafo").Caption(), "STIAMO SERVENDO I NUMERI");
+    EXPECT_EQ(banco.vista.titolo, "");
+    EXPECT_EQ(banco.vista.posto, (Rettangolo{0, 0, 12000, 9000}));
+    EXPECT_FALSE(banco.vista.ridotta);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(banco.numeri(i), "||||||");
+        EXPECT_EQ(banco.controllo("picPannello", i).BackColor(), kNero);
+        EXPECT_TRUE(banco.controllo("picPannello", i).Visible()) << "a department not in use stays on show";
+        const Controllo& titolo = banco.controllo("lblTitolo", i);
+        EXPECT_EQ(titolo.Caption(), banco.console.reparti.at(static_cast<std::size_t>(i)));
+        EXPECT_EQ(titolo.FontName(), "Arial Narrow");
+        EXPECT_EQ(titolo.FontSize(), 48);
+        EXPECT_EQ(titolo.ForeColor(), kBianco);
+        for (int n = 1; n <= 6; ++n) {
+            const Controllo& numero = banco.controllo(etichettaNumero(n), i);
+            EXPECT_EQ(numero.ForeColor(), kBianco);
+            EXPECT_EQ(numero.FontName(), n <= 3 ? "Arial Narrow" : "Arial");
+            EXPECT_EQ(numero.FontSize(), n <= 3 ? 100 : 39.75);
+        }
+    }
+    const Controllo& messaggio = banco.controllo("lblComunicazione");
+    EXPECT_EQ(messaggio.Posto(), (Rettangolo{0, 0, 15120, 10395})) << "a message covers the whole window";
+    EXPECT_FALSE(banco.controllo("picComunicazione").Visible());
+    EXPECT_EQ(banco.pompa.punti, std::vector<std::string>{"Videata/Load"});
+}
+
+TEST(CaricoVideata, ogniChiaveAlSuoPosto) {
+    BancoVideata banco;
+    banco.imposta("TitoloLumigrafo", "Ora servite");
+    banco.imposta("FontNumeri", "Verdana");
+    banco.imposta("FontSizeNumeri", "72,5");
+    for (int i = 0; i < 3; ++i) {
+        const std::string c = std::to_string(i);
+        banco.imposta(("FontTesto" + c).c_str(), "Carattere" + c);
+        banco.imposta(("FontSizeTesto" + c).c_str(), 30 + i);
+        banco.imposta(("ColoreTesto" + c).c_str(), 255 + i);
+        banco.imposta(("ColoreSfondo" + c).c_str(), 65280 + i);
+        for (int n = 1; n <= 9; ++n) // as a board with nine numbers leaves it
+            banco.stato.ScriviIni(c, "Numero" + std::to_string(n), "A " + c + std::to_string(n));
+    }
+    banco.imposta("NumeroLampeggi", 1);
+    EXPECT_EQ(banco.controllo("lblTitoloLumigrafo").Caption(), "Ora servite");
+    for (int i = 0; i < 3; ++i) {
+        const std::string c = std::to_string(i);
+        EXPECT_EQ(banco.numeri(i),
+                  "A " + c + "1|A " + c + "2|A " + c + "3|A " + c + "4|A " + c + "5|A " + c + "6|");
+        EXPECT_EQ(banco.controllo("picPannello", i).BackColor(), Colore(65280 + i));
+        EXPECT_EQ(banco.controllo("lblTitolo", i).FontName(), "Carattere" + c);
+        EXPECT_EQ(banco.controllo("lblTitolo", i).FontSize(), 30 + i);
+        EXPECT_EQ(banco.controllo("lblTitolo", i).ForeColor(), Colore(255 + i));
+        EXPECT_EQ(banco.controllo("lblNumero6", i).ForeColor(), Colore(255 + i));
+        EXPECT_EQ(banco.controllo("lblNumero1", i).FontName(), "Verdana");
+        EXPECT_EQ(banco.controllo("lblNumero1", i).FontSize(), 72.5);
+        EXPECT_EQ(banco.controllo("lblNumero4", i).FontName(), "Arial");
+    }
+    banco.videata->Blinka(2);
+    banco.timers.avanza(1200ms);
+    EXPECT_EQ(banco.timers.accesi(), 0) << "one cycle: four ticks";
+}
+
+class ChiaveSbagliata : public testing::TestWithParam<const char*> {};
+
+TEST_P(ChiaveSbagliata, fermaIlCarico) {
+    BancoVideata banco;
+    banco.imposta(GetParam(), "grande");
+    try {
+        (void)banco.videata->controlli();
+        FAIL() << "loaded in spite of " << GetParam();
+    } catch (const Guasto& g) {
+        EXPECT_EQ(g.numero(), guasti::kTipo);
+    }
+    EXPECT_FALSE(banco.videata->caricata());
+    EXPECT_FALSE(banco.vista.aperta);
+    EXPECT_EQ(banco.postoSalvato(), "- - - - ") << "a board that never came up saves no place";
+}
+
+INSTANTIATE_TEST_SUITE_P(Chiavi, ChiaveSbagliata,
+                         testing::Values("FontSizeTesto2", "FontSizeNumeri", "ColoreTesto1", "ColoreSfondo2",
+                                         "NumeroLampeggi"));
+
+TEST(PostoVideata, ripresoUnaVoltaESalvatoAllaFine) {
+    BancoVideata banco;
+    banco.impostaPosto("-150", "30000.5", "9000", "6000,25");
+    (void)banco.videata->controlli();
+    EXPECT_EQ(banco.vista.posizionata, 0) << "the load places nothing";
+    banco.videata->Mostra();
+    EXPECT_EQ(banco.vista.posto, (Rettangolo{30000.5, -150, 9000, 6000.25}));
+    banco.vista.posto = kPosto; // moved by the operator
+    banco.vista.eventi.attivata();
+    banco.videata->Mostra();
+    EXPECT_EQ(banco.vista.posto, kPosto);
+    banco.videata->Scarica();
+    EXPECT_EQ(banco.postoSalvato(), "150 300 9000 6000 ");
+    banco.videata->Scarica(); // nothing to close
+    EXPECT_EQ(banco.vista.create, 1);
+
+    banco.videata->Mostra();
+    EXPECT_EQ(banco.vista.create, 2);
+    EXPECT_EQ(banco.vista.posto, kPosto);
+}
+
+TEST(PostoVideata, conSoloAndroidNonSiMuoveMaSiSalva) {
+    BancoVideata banco;
+    banco.console.soloAndroid = true;
+    banco.impostaPosto("150", "300", "9000", "6000");
+    banco.videata->Mostra();
+    EXPECT_TRUE(banco.vista.ridotta);
+    banco.videata->Riduci(false);
+    banco.vista.eventi.attivata();
+    EXPECT_EQ(banco.vista.posizionata, 0);
+    banco.videata->Scarica();
+    EXPECT_EQ(banco.postoSalvato(), "0 0 15120 10395 ");
+}
+
+TEST(PostoVideata, ridottaNonFermaLaVideataNormale) {
+    BancoVideata banco;
+    banco.ambiente.argomenti = "RIDOTTA";
+    banco.videata->Mostra();
+    EXPECT_FALSE(banco.vista.ridotta);
+    EXPECT_EQ(banco.vista.posizionata, 1);
+}
+
+TEST(PostoVideata, unaChiaveSbagliataFermaLAttivazione) {
+    BancoVideata banco;
+    banco.impostaPosto("0", "0", "largo", "9000");
+    EXPECT_THROW(banco.videata->Mostra(), Guasto);
+    EXPECT_EQ(banco.vista.posizionata, 0);
+}
+
+TEST(FineVideata, ilComandoDiChiusuraScaricaESalva) {
+    for (const char* nome : {"lblChiudi", "picChiudi"}) {
+        BancoVideata banco;
+        banco.videata->Mostra();
+        banco.vista.eventi.clic("lblNumero3", 0);
+        EXPECT_TRUE(banco.vista.aperta);
+        const auto eventi = banco.vista.eventi;
+        eventi.clic(nome, kSenzaIndice);
+        EXPECT_FALSE(banco.videata->caricata()) << nome;
+        EXPECT_FALSE(banco.vista.aperta);
+        EXPECT_EQ(banco.postoSalvato(), "0 0 12000 9000 ");
+    }
+}
+
+TEST(FineVideata, laVideataNuovaMostraQuelCheDiceIlFile) {
+    BancoVideata banco;
+    banco.stato.ScriviIni("1", "Numero3", "B 7");
+    Controlli& vecchi = banco.videata->controlli();
+    EXPECT_EQ(vecchi("lblNumero3", 1).Caption(), "B 7");
+    banco.videata->Blinka(1);
+    banco.timers.avanza(600ms);
+    banco.videata->Scarica();
+    EXPECT_EQ(banco.timers.accesi(), 0);
+    std::filesystem::remove(banco.stato.file());
+    banco.videata->Mostra();
+    EXPECT_EQ(banco.numeri(1), "||||||");
+    EXPECT_TRUE(banco.controllo("lblNumero3", 1).Visible());
+    vecchi("lblNumero3", 1).Caption("B 8"); // a routine that an unload interrupted
+    EXPECT_EQ(banco.numeri(1), "||||||");
+}
+
+TEST(FineVideata, scaricataNelMezzoDelCarico) {
+    BancoVideata banco;
+    banco.pompa.alPunto("Videata/Load", [&] { banco.videata->Scarica(); });
+    banco.videata->Mostra();
+    EXPECT_FALSE(banco.videata->caricata());
+    EXPECT_FALSE(banco.vista.inVista);
+    banco.videata->Mostra();
+    EXPECT_TRUE(banco.vista.inVista);
+
+    // The same with the board loaded anew before the interrupted load goes on: the new one isn't touched.
+    banco.videata->Scarica();
+    banco.pompa.alPunto("Videata/Load", [&] {
+        const auto eventi = banco.vista.eventi;
+        eventi.chiusa();
+        banco.videata->Mostra();
+        banco.vista.titolo = "nuova";
+    });
+    banco.videata->controlli()("lblNumero3", 0).Caption("A 1");
+    EXPECT_TRUE(banco.vista.inVista);
+    EXPECT_EQ(banco.vista.titolo, "nuova");
+    EXPECT_EQ(banco.controllo("lblNumero3", 0).Caption(), "");
+}
+
+TEST(FineVideata, usataDuranteIlCaricoNonSiRicarica) {
+    BancoVideata banco;
+    banco.pompa.alPunto("Videata/Load", [&] {
+        banco.videata->Blinka(0);
+        banco.videata->Mostra();
+    });
+    (void)banco.videata->controlli();
+    EXPECT_EQ(banco.vista.create, 1);
+    EXPECT_TRUE(banco.vista.inVista);
+    EXPECT_EQ(banco.timers.accesi(), 1);
+}
+
+} // namespace
+
+} // namespace lumigrafo::prova

@@ -1,0 +1,84 @@
+#include "tests/console/banco.h"
+
+#include <algorithm>
+
+namespace lumigrafo::prova {
+
+namespace {
+
+class DatiDi : public DatiConsole {
+public:
+    explicit DatiDi(std::unique_ptr<Console>& console) : console_(console) {}
+    [[nodiscard]] std::string Reparto(int quadrante) const override {
+        return console_->controlli()("lblReparto", quadrante).Caption();
+    }
+    [[nodiscard]] bool SoloAndroid() const override { return console_->stato().SoloAndroid; }
+
+private:
+    std::unique_ptr<Console>& console_;
+};
+
+} // namespace
+
+Console& Banco::console() {
+    if (console_)
+        return *console_;
+    dati_ = std::make_unique<DatiDi>(console_);
+    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, pompa, timers, *dati_});
+    console_ = std::make_unique<Console>(
+        PorteConsole{ambiente, orologio, pompa, timers, avvisi, messaggi, processi, alimentazione, sistema, uscita,
+                     dialoghi, annunciatore, fiscale, android, server},
+        finestra, [this](TipoVideata tipo) {
+            tipoChiesto = tipo;
+            // The standard board, whatever the type: it has the slots of all three quadrants.
+            return creaVideata(TipoVideata::frmLumigrafo, *servizi_,
+                               [this](std::shared_ptr<Controlli>, EventiFinestra) {
+                                   return std::make_unique<FinestraVideataFinta>(diario);
+                               });
+        });
+    return *console_;
+}
+
+Console& Banco::caricata() {
+    console().carica();
+    diario.clear();
+    return console();
+}
+
+std::vector<std::string> Banco::celle(int quadrante) {
+    std::vector<std::string> testi;
+    const Griglia& grid = console().stato().grid.at(static_cast<std::size_t>(quadrante));
+    for (int r = 0; r < grid.Rows(); ++r)
+        for (int k = 0; k < grid.Cols(); ++k)
+            testi.push_back(grid.testo(r, k));
+    return testi;
+}
+
+std::vector<std::string> Banco::posti(int quadrante, int quanti) {
+    std::vector<std::string> testi;
+    for (int n = 1; n <= quanti; ++n)
+        testi.push_back(board().controlli()(etichettaNumero(n), quadrante).Caption());
+    return testi;
+}
+
+void Banco::clic(int quadrante, const std::string& testo) {
+    Griglia& grid = console().stato().grid.at(static_cast<std::size_t>(quadrante));
+    for (int r = 0; r < grid.Rows(); ++r)
+        for (int k = 0; k < grid.Cols(); ++k)
+            if (grid.testo(r, k) == testo) {
+                grid.corrente(r, k);
+                console().clicGriglia(quadrante);
+                return;
+            }
+    throw std::runtime_error("no cell with " + testo);
+}
+
+Diario Banco::senza(std::initializer_list<std::string_view> inizi) const {
+    Diario resto;
+    std::copy_if(diario.begin(), diario.end(), std::back_inserter(resto), [&](const std::string& riga) {
+        return std::none_of(inizi.begin(), inizi.end(), [&](auto inizio) { return riga.starts_with(inizio); });
+    });
+    return resto;
+}
+
+} // namespace lumigrafo::prova

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "boards/crea_videata.h"
+#include "console/console.h"
+#include "platform/finti/finti.h"
+#include "settings/finti/messaggi_finti.h"
+#include "tests/console/finti_console.h"
+#include "tests/sostegno/archivio_prova.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+namespace lumigrafo::prova {
+
+/// A console without a window on a real archive, with every port faked; what the fakes are told is in `diario`.
+class Banco {
+public:
+    Diario diario;
+    CartellaTemporanea cartella;
+    Ambiente ambiente{cartella.percorso(), "/opt/lumigrafo/lumigrafo", ""};
+    ArchivioProva archivio{cartella.percorso() / "archivio.mdb"};
+    FileIni impostazioni{cartella.percorso() / kFileImpostazioni};
+    FileIni videata{cartella.percorso() / kFileVideata};
+    FileIni ultimi{cartella.percorso() / kFileUltimiChiamati};
+
+    OrologioFinto orologio{&diario};
+    PompaFinta pompa{&diario};
+    TimersFinti timers;
+    AvvisiFinti avvisi{&diario};
+    MessaggiFinti messaggi{&diario};
+    ProcessiFinti processi{&diario};
+    AlimentazioneFinta alimentazione;
+    SistemaFinto sistema{&diario};
+    UscitaFinta uscita{&diario};
+    DialoghiFinti dialoghi{diario};
+    AnnunciatoreFinto annunciatore{diario};
+    FiscaleFinto fiscale{diario};
+    AndroidFinto android{diario};
+    ServerFinto server{diario};
+    FinestraFinta finestra{diario};
+
+    /// The console of one run. Settings must stand in the files before.
+    Console& console();
+    /// Loads it and empties the diary.
+    Console& caricata();
+    Videata& board() { return *console().stato().frmVideata; }
+    TipoVideata tipoChiesto{};
+
+    void imposta(const char* chiave, const ValoreIni& valore) {
+        impostazioni.ScriviIni(kSezioneImpostazioni, chiave, valore);
+    }
+    /// Texts of a grid's cells, row by row, "" for empty ones.
+    [[nodiscard]] std::vector<std::string> celle(int quadrante);
+    /// The slots of a quadrant on the board, from 1 to `quanti`.
+    [[nodiscard]] std::vector<std::string> posti(int quadrante, int quanti = 6);
+    /// Makes the cell with this text current and clicks it.
+    void clic(int quadrante, const std::string& testo);
+    /// What the diary holds of these kinds of entries, in order ("cedi" and "attendi" left out, say).
+    [[nodiscard]] Diario senza(std::initializer_list<std::string_view> inizi) const;
+
+private:
+    std::unique_ptr<DatiConsole> dati_;
+    std::unique_ptr<ServiziSchede> servizi_;
+    std::unique_ptr<Console> console_;
+};
+
+} // namespace lumigrafo::prova

@@ -1,0 +1,211 @@
+#include <fstream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/guasto.h"
+#include "tests/console/banco.h"
+
+namespace lumigrafo::prova {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using testing::StartsWith;
+
+std::string percorso(const Banco& b) {
+    return (b.cartella.percorso() / "archivio.mdb").string();
+}
+
+TEST(Avvio, TheLoadGoesStepByStep) {
+    Banco b;
+    b.imposta("Categoria0", 1);
+    b.imposta("Categoria1", 2);
+    b.imposta("Vocale", 1);
+    b.archivio.ordine("A", 1, {{1, 1}});
+    b.console().carica();
+    EXPECT_THAT(b.diario,
+                ElementsAre("istanza", "ScegliVoce", "attendi 400", "cedi CaricaVideataInizio/9", "cedi Form_Load/12",
+                            "cedi Form_Load/16", "splash", "cedi Form_Load/18", "videata caricata",
+                            "cedi Videata/Load", "videata normale", "videata in vista", "cedi cmdLumigrafo/1",
+                            "videata normale", "console in vista", "cedi Form_Load/18 mostrato", "android -1",
+                            "mnuFiscale nascosto"));
+    EXPECT_EQ(b.console().controlli()("lblDB").Caption(), percorso(b));
+    EXPECT_TRUE(std::filesystem::is_empty(b.cartella.percorso() / "log.vocal.txt"));
+    EXPECT_TRUE(b.console().stato().VoceAttiva);
+}
+
+TEST(Avvio, FirstActivationHappensOnceAndTestsTheStoredTruthValue) {
+    for (const auto& [valore, posiziona] : {std::pair("1", false), {"-1", true}, {"0", false}, {"True", true}}) {
+        Banco b;
+        b.imposta("Posiziona", valore);
+        b.caricata();
+        b.console().attiva();
+        EXPECT_EQ(b.diario.front() == "PosizionaLumigrafo", posiziona) << valore;
+        EXPECT_EQ(b.diario.back(), "console in primo piano");
+        const auto righe = b.diario.size();
+        b.console().attiva();
+        EXPECT_EQ(b.diario.size(), righe);
+    }
+}
+
+TEST(Avvio, ASecondStartSaysSoAndEndsUnlessItIsARestart) {
+    Banco b;
+    b.sistema.precedente = true;
+    EXPECT_THROW(b.console().carica(), FineProcesso);
+    EXPECT_EQ(b.messaggi.mostrati.at(0),
+              (std::pair<std::string, std::int16_t>(
+                  "Lumigrafo risulta già avviato, in caso di problemi riavviare il pc.", 4)));
+    EXPECT_EQ(b.diario.back(), "fine 0");
+
+    Banco riavviato;
+    riavviato.sistema.precedente = true;
+    riavviato.ambiente.argomenti = "RIAVVIO";
+    riavviato.console().carica();
+    EXPECT_THAT(riavviato.diario, Not(Contains("splash")));
+    // The board is shown as soon as the grids are loaded, and once more at the end.
+    EXPECT_EQ(std::count(riavviato.diario.begin(), riavviato.diario.end(), "cedi cmdLumigrafo/1"), 2);
+}
+
+struct CasoArchivio {
+    const char* nome;
+    const char* cartella;
+    bool risponde;
+    const char* esito;
+};
+
+class ArchivioAssente : public testing::TestWithParam<CasoArchivio> {};
+
+TEST_P(ArchivioAssente, WarnsOnceAndEndsAfterTheDialog) {
+    Banco b;
+    b.imposta("DatabaseLumigrafo", GetParam().cartella);
+    b.sistema.risponde = GetParam().risponde;
+    EXPECT_THROW(b.console().carica(), FineProcesso);
+    const Avviso& avviso = b.avvisi.mostrati.at(0);
+    const std::string archivio = (std::filesystem::path(GetParam().cartella) / "archivio.mdb").string();
+    EXPECT_EQ(avviso.testo,
+              "Errore di collegamento al database " + archivio + "\r\n\r\n" + GetParam().esito);
+    EXPECT_EQ(avviso.titolo, "");
+    EXPECT_EQ(avviso.icona, Icona::Esclamazione);
+    EXPECT_EQ(b.orologio.atteso, 3s);
+    const Diario coda(b.diario.end() - 4, b.diario.end());
+    EXPECT_THAT(coda, ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmDatabase", "fine 0"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cartelle, ArchivioAssente,
+    testing::Values(CasoArchivio{"locale", "/non/esiste", true, ""},
+                    CasoArchivio{"risponde", "\\\\192.168.1.10\\dati", true,
+                                 "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
+                    CasoArchivio{"tace", "\\\\SERVER\\dati\\x", false,
+                                 "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
+                                 "di rete siano collegati e che i led del switch siano accesi."}),
+    [](const auto& caso) { return caso.param.nome; });
+
+TEST(Avvio, AnArchiveThatComesUpDuringTheWaitIsTaken) {
+    Banco b;
+    const auto altrove = b.cartella.percorso() / "poi.mdb";
+    std::filesystem::rename(percorso(b), altrove);
+    b.orologio.durante = [&] {
+        if (std::filesystem::exists(altrove))
+            std::filesystem::rename(altrove, percorso(b));
+    };
+    b.console().carica();
+    EXPECT_THAT(b.avvisi.mostrati, testing::IsEmpty());
+}
+
+TEST(Avvio, AnArchiveThatCannotBeOpenedIsNamedWithItsNumber) {
+    Banco b;
+    std::ofstream(percorso(b), std::ios::trunc) << "non è un archivio";
+    EXPECT_THROW(b.console().carica(), FineProcesso);
+    EXPECT_EQ(b.avvisi.mostrati.at(0).testo, "Errore 3343 apertura database: " + percorso(b));
+    EXPECT_EQ(b.avvisi.mostrati.at(0).titolo, "ERRORE");
+    EXPECT_EQ(b.avvisi.mostrati.at(0).icona, Icona::Critica);
+    EXPECT_EQ(b.diario.back(), "fine 1");
+}
+
+TEST(Avvio, TheBusinessDayChangesAtFive) {
+    const std::pair<DataOra, Data> casi[] = {{{{2026, 3, 1}, 4, 59, 59}, {2026, 2, 28}},
+                                             {{{2026, 3, 1}, 5, 0, 0}, {2026, 3, 1}},
+                                             {{{2028, 3, 1}, 0, 0, 0}, {2028, 2, 29}},
+                                             {{{2027, 1, 1}, 2, 0, 0}, {2026, 12, 31}}};
+    for (const auto& [ora, data] : casi) {
+        Banco b;
+        b.orologio.ora = ora;
+        b.console().carica();
+        EXPECT_EQ(b.console().stato().DataCompetenza, data);
+    }
+}
+
+TEST(Avvio, StaleNumbersGoAndThoseOfAnOpenServiceComeBack) {
+    for (const bool aperti : {false, true}) {
+        Banco b;
+        b.imposta("Categoria0", 1);
+        b.imposta("Categoria1", 2);
+        if (aperti)
+            b.archivio.ordine("A", 5, {{1, 1}});
+        b.videata.ScriviIni("0", "Numero3", "A 4");
+        b.caricata();
+        EXPECT_EQ(b.posti(0)[2], aperti ? "A 4" : "");
+        EXPECT_EQ(std::filesystem::exists(b.videata.file()), aperti);
+    }
+}
+
+TEST(Avvio, ReducedAndAndroidAloneKeepTheBoardMinimised) {
+    Banco ridotta;
+    ridotta.ambiente.argomenti = "RIDOTTA";
+    ridotta.console().carica();
+    EXPECT_THAT(ridotta.diario, Contains("videata ridotta"));
+    Banco android;
+    android.impostazioni.ScriviIni(kSezioneAndroid, "SoloAndroid", 1);
+    android.console().carica();
+    EXPECT_THAT(android.diario, Contains("videata ridotta"));
+}
+
+TEST(Avvio, SettingsThatAreGarbage) {
+    Banco b;
+    std::ofstream(b.impostazioni.file(), std::ios::binary) << std::string("\0\xff[Impostazioni\nVocale", 22);
+    b.console().carica(); // nothing readable: the defaults
+    EXPECT_EQ(b.console().stato().NumeroMassimoRighe, 50);
+    Banco parole;
+    parole.imposta("TipoLumigrafo", "verticale");
+    EXPECT_THROW(parole.console().carica(), Guasto);
+}
+
+TEST(Avvio, WaysOut) {
+    Banco b;
+    b.imposta("Categoria0", 1);
+    b.caricata();
+    b.console().clic("cmdUscita", kSenzaIndice);
+    EXPECT_THAT(b.diario, ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmSpegni"));
+    b.console().clic("cmdSpegni", kSenzaIndice);
+    EXPECT_EQ(b.alimentazione.spegnimenti, 1);
+    b.diario.clear();
+    EXPECT_THROW(b.console().scarica(), FineProcesso);
+    EXPECT_THAT(b.diario,
+                ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "videata chiusa", "fine 0"));
+    EXPECT_EQ(b.impostazioni.LeggiIni(kSezioneForm, "Width"), "12000");
+
+    Banco riavvio;
+    riavvio.caricata();
+    EXPECT_THROW(riavvio.console().clic("cmdRiavvia", kSenzaIndice), FineProcesso);
+    EXPECT_THAT(riavvio.diario, ElementsAre("cedi cmdRiavvia/1", "avvia /opt/lumigrafo/lumigrafo RIAVVIO",
+                                            "attendi 400", "fine 0"));
+}
+
+TEST(Avvio, ClearingTheBoardTakesItsFileAndItsNumbers) {
+    Banco b;
+    b.imposta("Categoria0", 1);
+    b.archivio.ordine("A", 5, {{1, 1}});
+    b.caricata();
+    b.clic(0, "A  5");
+    b.console().clic("cmdPulisciLumigrafo", kSenzaIndice);
+    EXPECT_FALSE(std::filesystem::exists(b.videata.file()));
+    EXPECT_THAT(b.posti(0), testing::Each(""));
+    EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_0"), "A  5");
+}
+
+} // namespace
+} // namespace lumigrafo::prova

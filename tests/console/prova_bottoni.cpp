@@ -1,0 +1,89 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/console/banco.h"
+
+namespace lumigrafo::prova {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::Contains;
+using testing::ElementsAre;
+
+TEST(Bottoni, ThePanelGoesAwayByItself) {
+    Banco b;
+    b.caricata();
+    const Controllo& pannello = b.console().controlli()("fraBottoni");
+    b.console().clic("cmdAllarga", kSenzaIndice);
+    b.timers.avanza(4999ms);
+    EXPECT_TRUE(pannello.Visible());
+    b.timers.avanza(1ms);
+    EXPECT_FALSE(pannello.Visible());
+    for (const char* chiude : {"cmdChiudi", "fraBottoni", "cmdLumigrafo", "cmdAggiorna", "cmdModalita"}) {
+        b.console().clic("cmdAllarga", kSenzaIndice);
+        b.console().clic(chiude, 0);
+        EXPECT_FALSE(pannello.Visible()) << chiude;
+    }
+}
+
+TEST(Bottoni, DialogsStopTheCompanionFirst) {
+    struct Caso {
+        const char* nome;
+        std::int16_t tipo;
+        bool locale;
+        Diario attesi;
+    };
+    const Diario prima{"termina PrimoPiano.exe", "termina primopiano.exe"};
+    const auto con = [&prima](const char* dialogo) {
+        Diario d = prima;
+        d.push_back(dialogo);
+        return d;
+    };
+    const Caso casi[] = {
+        {"cmdComunicazione", 0, false, con("frmComunicazione")},
+        {"cmdComunicazione", 4, false, {"messaggio Non possibile con sistema Avanti Prossimo"}},
+        {"cmdRipristina", 0, false, con("frmRipristina")},
+        {"cmdUscita", 0, false, con("frmSpegni")},
+        {"cmdPosizionaLumigrafo", 0, false, {"PosizionaLumigrafo"}},
+    };
+    for (const Caso& caso : casi) {
+        Banco b;
+        b.caricata();
+        b.console().stato().TipoLumigrafo = caso.tipo;
+        b.console().stato().PathDB = caso.locale ? b.cartella.percorso().string() : "/altrove";
+        b.console().clic(caso.nome, kSenzaIndice);
+        EXPECT_EQ(b.diario, caso.attesi) << caso.nome;
+    }
+}
+
+TEST(Bottoni, TheStationWithTheArchiveFillsNumbersInsteadOfRestoring) {
+    Banco b;
+    b.imposta("Categoria0", 1);
+    b.caricata();
+    b.archivio.ordine("A", 1, {{1, 1}});
+    b.console().clic("cmdRipristina", kSenzaIndice);
+    EXPECT_THAT(b.diario, Contains("frmInserisciNumeri"));
+    EXPECT_THAT(b.celle(0), Contains("A  1")); // the grids are rebuilt after it
+}
+
+TEST(Bottoni, MenusAskForThePasswordFirst) {
+    Banco b;
+    b.caricata();
+    b.dialoghi.passwordGiusta = false;
+    b.console().mnuDatabase();
+    b.console().mnuImposta();
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe", "termina primopiano.exe",
+                                      "password "));
+    EXPECT_TRUE(b.board().caricata());
+    b.dialoghi.passwordGiusta = true;
+    b.diario.clear();
+    b.console().mnuDatabase();
+    b.console().mnuImposta();
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe", "termina primopiano.exe",
+                                      "frmDatabase", "termina PrimoPiano.exe", "termina primopiano.exe", "password ",
+                                      "videata chiusa", "frmImposta"));
+    EXPECT_FALSE(b.board().caricata());
+}
+
+} // namespace
+} // namespace lumigrafo::prova

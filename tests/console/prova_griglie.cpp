@@ -1,0 +1,136 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "console/testi.h"
+#include "platform/guasto.h"
+#include "tests/console/banco.h"
+
+namespace lumigrafo::prova {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+class Griglie : public testing::Test {
+protected:
+    Banco b;
+    void SetUp() override {
+        b.imposta("Categoria0", 1);
+        b.imposta("Categoria1", 2);
+        b.imposta("Categoria2", 3);
+    }
+};
+
+TEST_F(Griglie, OrdersStandInTheQuadrantsOfTheirOpenCategoriesByLetterAndNumber) {
+    b.archivio.ordine("B", 7, {{1, 1}});
+    b.archivio.ordine("A", 12, {{1, 2}, {2, 3}});
+    b.archivio.ordine("A", 7, {{2, 1}}, true);
+    b.archivio.ordine("", 9, {{1, 1}});
+    b.archivio.ordine(std::nullopt, 3, {{3, 1}});
+    b.archivio.esegui("UPDATE Lumigrafo SET Pezzi3 = NULL WHERE Numero = 3");
+    b.archivio.esegui("UPDATE Numero SET Numero = 41");
+    b.caricata();
+    EXPECT_THAT(b.celle(0), ElementsAre("9", "A  12", "B  7"));
+    EXPECT_THAT(b.celle(1), ElementsAre("A  7", "A  12", ""));
+    EXPECT_THAT(b.celle(2), ElementsAre("3", "", ""));
+    EXPECT_EQ(b.console().stato().grid[1].sfondo(0, 0), rgb(255, 128, 128));
+    EXPECT_EQ(b.console().stato().grid[1].sfondo(0, 1), std::nullopt);
+    EXPECT_EQ(b.console().controlli()("lblNumCasse").Caption(), "Le casse stanno servendo il numero 41");
+    EXPECT_EQ(b.console().controlli()("lblPezzi", 1).Caption(), "Pezzi 4");
+    EXPECT_EQ(b.console().controlli()("lblReparto", 1).Caption(), "Bar");
+}
+
+TEST_F(Griglie, TheFurtherCategoryOfTheFirstQuadrantShowsAnOrderOnce) {
+    b.imposta("Categoria1", 0);
+    b.imposta("Categoria2", 0);
+    b.imposta("Categoria3", 2);
+    b.archivio.ordine("A", 1, {{1, 1}, {2, 1}});
+    b.archivio.ordine("A", 2, {{2, 1}});
+    b.archivio.ordine("B", 2, {{2, 1}});
+    b.caricata();
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", "B  2", ""));
+}
+
+TEST_F(Griglie, RowLimitLeavesOneRowMoreWithASingleCell) {
+    b.imposta("NumeroMassimoRighe", 1);
+    for (int n = 1; n <= 9; ++n)
+        b.archivio.ordine("A", n, {{1, 1}, {2, 1}, {3, 1}});
+    b.caricata();
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", "A  3", "A  4", "", ""));
+    EXPECT_THAT(b.celle(2), ElementsAre("A  1", "A  2", "A  3", "A  4", "", ""));
+}
+
+TEST_F(Griglie, AServedOrderVanishesAndTheCounterTableMayBeEmpty) {
+    b.archivio.ordine("A", 1, {{1, 1}});
+    b.archivio.ordine("A", 2, {});
+    b.caricata();
+    EXPECT_EQ(b.archivio.coda(), "A1");
+    const std::string prima = b.console().controlli()("lblNumCasse").Caption();
+    b.archivio.esegui("DELETE FROM Numero");
+    b.archivio.esegui("DELETE FROM Lumigrafo");
+    b.timers.avanza(32s);
+    EXPECT_THAT(b.celle(0), ElementsAre());
+    EXPECT_EQ(b.console().controlli()("lblNumCasse").Caption(), prima);
+    // Sums over nothing are null: the last figure stays on show.
+    EXPECT_EQ(b.console().controlli()("lblPezzi", 0).Caption(), "Pezzi 1");
+}
+
+TEST_F(Griglie, APointerOnTheGridHoldsTheRebuildBack) {
+    b.caricata();
+    b.archivio.ordine("A", 1, {{1, 1}});
+    b.timers.avanza(31s);
+    b.console().puntatoreSuGriglia();
+    b.timers.avanza(31s);
+    EXPECT_THAT(b.celle(0), ElementsAre());
+    b.console().stato().BarCodeInCorso = true;
+    b.console().puntatoreSuGriglia(); // a scan is being worked on: no restart
+    b.timers.avanza(1s);
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", ""));
+}
+
+TEST_F(Griglie, ARebuildInsideARebuildReturnsAtOnce) {
+    b.archivio.ordine("A", 1, {{1, 1}});
+    b.caricata();
+    b.pompa.alPunto("CaricaVideataInizio/9", [this] {
+        b.archivio.ordine("A", 2, {{1, 1}});
+        b.console().clic("cmdAggiorna", kSenzaIndice);
+    });
+    b.console().clic("cmdAggiorna", kSenzaIndice);
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", ""));
+    b.console().clic("cmdAggiorna", kSenzaIndice);
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", ""));
+}
+
+TEST_F(Griglie, CategoryOutOfRangeAndNumberTooLargeAreFailures) {
+    b.archivio.ordine("A", 40000, {{1, 1}});
+    EXPECT_THROW(b.caricata(), Guasto);
+    Banco altro;
+    altro.imposta("Categoria0", 11);
+    EXPECT_THROW(altro.caricata(), Guasto);
+}
+
+TEST_F(Griglie, ClicksOnItsHeadWidenAGridForGood) {
+    b.caricata();
+    const Controllo& grid = b.console().controlli()("grid", 1);
+    const Twip prima = grid.Width();
+    b.console().clic("lblPezz", 1);
+    b.console().clic("picInfo", 1);
+    EXPECT_EQ(grid.Width(), prima + 600);
+}
+
+TEST(Testi, NumbersInCellsAndSlots) {
+    EXPECT_EQ(FormattaNumero(" A ", " 00123 "), "A  123");
+    EXPECT_EQ(FormattaNumero("", "007"), "7");
+    EXPECT_EQ(FormattaNumero("A", ""), "A  0");
+    EXPECT_THROW((void)FormattaNumero("A", "32768"), Guasto);
+    EXPECT_EQ(testoVideata(" A ", " 12 "), "A 12");
+    EXPECT_EQ(testoVideata("", "12"), "12");
+    const auto [sigla, numero] = dividiCella("è  12");
+    EXPECT_EQ(sigla, "è");
+    EXPECT_EQ(numero, "12");
+    EXPECT_EQ(dividiCella("12").sigla, "");
+    EXPECT_EQ(dividiCella("12").numero, "12");
+}
+
+} // namespace
+} // namespace lumigrafo::prova

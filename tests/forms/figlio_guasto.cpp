@@ -1,0 +1,64 @@
+#include "platform/guasto.h"
+#include "platform/qt/applicazione.h"
+#include "platform/qt/avvisi_qt.h"
+#include "platform/qt/uscita_qt.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstdio>
+#include <stdexcept>
+
+// A program that fails in the way its argument names, closes its own error box, and says what the box said.
+namespace {
+
+struct Statico {
+    ~Statico() { std::puts("statics destroyed"); }
+} statico;
+
+int altriScatti = 0;
+
+void chiudiAvviso() {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        std::printf("%s|%s|%d|%d\n", qPrintable(box->windowTitle()), qPrintable(box->text()), box->icon(),
+                    altriScatti);
+        box->buttons().first()->click();
+        return;
+    }
+    QTimer::singleShot(5, qApp, chiudiAvviso);
+}
+
+void fallisci(const QString& modo) {
+    if (modo == QStringLiteral("eccezione"))
+        throw std::runtime_error("cattiva");
+    throw lumigrafo::Guasto(6, "Overflow");
+}
+
+void avvia(const QString& modo) {
+    QTimer::singleShot(0, qApp, chiudiAvviso);
+    if (modo == QStringLiteral("avvio"))
+        fallisci(modo);
+    auto* altro = new QTimer(qApp);
+    QObject::connect(altro, &QTimer::timeout, qApp, [modo] {
+        ++altriScatti;
+        fallisci(modo);
+    });
+    altro->start(1);
+    QDialog esterno, interno;
+    QTimer::singleShot(0, &interno, [&] { interno.exec(); });
+    esterno.exec();
+    std::puts("went on");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    lumigrafo::AvvisiQt avvisi;
+    lumigrafo::UscitaQt uscita;
+    lumigrafo::Applicazione applicazione(argc, argv, avvisi, uscita);
+    const QString modo = QString::fromLocal8Bit(argv[1]);
+    return applicazione.esegui([modo] { avvia(modo); });
+}

@@ -1,0 +1,60 @@
+#include "forms/controlli.h"
+#include "platform/guasto.h"
+#include "tests/forms/dimostrativo.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <utility>
+#include <vector>
+
+using namespace lumigrafo;
+
+namespace {
+
+struct Registro : OsservatoreControlli {
+    std::vector<std::pair<std::string, Aspetto>> visti;
+    void cambiato(const Controllo& c, Aspetto a) override { visti.emplace_back(c.NomeCompleto(), a); }
+};
+
+TEST(Controlli, SiTrovanoPerNomeEIndice) {
+    Controlli c(dimostrativo::kLayout);
+    EXPECT_EQ(c("lblNumero3", 1).Caption(), "A 99999");
+    EXPECT_EQ(c("lblNumero3", 1).NomeCompleto(), "lblNumero3(1)");
+    EXPECT_EQ(c("txtBarCode").NomeCompleto(), "txtBarCode");
+    EXPECT_EQ(c.cerca("lblNumero3", 2), nullptr);
+    EXPECT_EQ(c.cerca("lblNumero3"), nullptr) << "an array has no element without an index";
+    try {
+        (void)c("lblNumero3", 7);
+        FAIL();
+    } catch (const Guasto& g) {
+        EXPECT_EQ(g.numero(), 340);
+    }
+}
+
+TEST(Controlli, OsservatoreSaDiOgniCambiamentoVero) {
+    Controlli c(dimostrativo::kLayout);
+    Registro registro;
+    c.osserva(&registro);
+    Controllo& n = c("lblNumero3", 0);
+    n.Caption("A 12"); // as it was
+    n.Caption("A 13");
+    n.ForeColor(kGiallo);
+    n.Left(100);
+    n.FontSize(50);
+    n.Visible(false);
+    n.ZOrder();
+    c("picLogo").Figura("prova"); // the same again: a file may have changed
+    const std::vector<std::pair<std::string, Aspetto>> attesi{{"lblNumero3(0)", Aspetto::Testo},
+                                                              {"lblNumero3(0)", Aspetto::Colori},
+                                                              {"lblNumero3(0)", Aspetto::Geometria},
+                                                              {"lblNumero3(0)", Aspetto::Carattere},
+                                                              {"lblNumero3(0)", Aspetto::Visibilita},
+                                                              {"lblNumero3(0)", Aspetto::Ordine},
+                                                              {"picLogo", Aspetto::Figura}};
+    EXPECT_EQ(registro.visti, attesi);
+    c.osserva(nullptr);
+    n.Caption("A 14");
+    EXPECT_EQ(registro.visti.size(), attesi.size());
+}
+
+} // namespace

@@ -1,0 +1,269 @@
+#include "forms/qt/bottone.h"
+#include "forms/qt/etichetta.h"
+#include "forms/qt/finestra.h"
+#include "platform/guasto.h"
+#include "tests/forms/dimostrativo.h"
+
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <set>
+
+using namespace lumigrafo;
+
+namespace {
+
+struct FinestraProva : testing::Test {
+    Controlli c{dimostrativo::kLayout};
+    Finestra f{c};
+
+    QWidget& w(const char* nome, int indice = kSenzaIndice) { return *f.widget(nome, indice); }
+    void mostra() {
+        f.show();
+        f.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&f));
+    }
+    QString stato() {
+        QString s;
+        for (const auto& x : c.tutti()) {
+            const QWidget* v = f.widget(x->disegno().nome, x->disegno().indice);
+            const QRect r = v->geometry();
+            s += QStringLiteral("%1 %2 %3 %4 %5 %6\n")
+                     .arg(v->objectName())
+                     .arg(r.x())
+                     .arg(r.y())
+                     .arg(r.width())
+                     .arg(r.height())
+                     .arg(v->isHidden());
+            if (const auto* e = dynamic_cast<const EtichettaWidget*>(v))
+                s += QString::number(e->testo().carattere().pixelSize());
+        }
+        return s;
+    }
+};
+
+TEST_F(FinestraProva, NomiEMisureDelDisegno) {
+    EXPECT_EQ(f.objectName(), QStringLiteral("frmProva"));
+    EXPECT_EQ(f.size(), QSize(1008, 693));
+    EXPECT_EQ(f.findChild<QWidget*>(QStringLiteral("lblNumero3(1)")), f.widget("lblNumero3", 1));
+    EXPECT_EQ(f.widget("lblNumero3"), nullptr);
+    EXPECT_EQ(w("lblNumero3", 1).parentWidget(), f.widget("picPannello", 0));
+    EXPECT_EQ(w("grid", 0).geometry(), QRect(2, 320, 389, 360));
+    EXPECT_GE(w("Line", 0).height(), 1);
+    EXPECT_TRUE(w("lblMessaggio").isHidden());
+    EXPECT_EQ(w("lblReparto", 0).accessibleName(), QStringLiteral("CUCINA"));
+    EXPECT_EQ(w("grid", 0).accessibleName(), QStringLiteral("Ordini"));
+    EXPECT_EQ(w("picPannello", 0).accessibleName(), QStringLiteral("picPannello(0)"));
+}
+
+TEST_F(FinestraProva, TuttoSegueLaFinestraSenzaDeriva) {
+    mostra();
+    const QString prima = stato();
+    f.resize(2016, 1386);
+    EXPECT_EQ(w("grid", 0).geometry(), QRect(4, 640, 778, 720));
+    auto& numero = dynamic_cast<EtichettaWidget&>(w("lblNumero3", 0));
+    EXPECT_EQ(numero.testo().carattere().pixelSize(), 267);
+    f.resize(2016, 693);
+    EXPECT_EQ(numero.testo().carattere().pixelSize(), 133) << "type follows the smaller axis";
+    for (int i = 0; i < 100; ++i)
+        f.resize(300 + 17 * i, 200 + 13 * (i % 37));
+    f.resize(1008, 693);
+    EXPECT_EQ(stato(), prima);
+    c("lblReparto", 0).Left(1530);
+    f.resize(2016, 1386);
+    EXPECT_EQ(w("lblReparto", 0).x(), 204) << "a moved control scales from where it was put";
+}
+
+TEST_F(FinestraProva, LaVistaSegueIlModello) {
+    c("lblReparto", 0).Caption("BAR");
+    EXPECT_EQ(w("lblReparto", 0).accessibleName(), QStringLiteral("BAR"));
+    c("lblMessaggio").Visible(true);
+    c("picPannello", 0).Visible(false);
+    EXPECT_FALSE(w("lblMessaggio").isHidden());
+    EXPECT_TRUE(w("picPannello", 0).isHidden());
+    c("cmdSpegni").Enabled(false);
+    EXPECT_FALSE(w("cmdSpegni").isEnabled());
+    c("txtBarCode").Caption("599");
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(w("txtBarCode")).text(), QStringLiteral("599"));
+    c("txtBarCode").BackColor(rgb(250, 240, 10));
+    EXPECT_EQ(w("txtBarCode").grab().toImage().pixelColor(w("txtBarCode").rect().center()),
+              QColor(250, 240, 10));
+    c("lblReparto", 0).BackColor(rgb(10, 200, 30));
+    EXPECT_EQ(f.grab().toImage().pixelColor(w("lblReparto", 0).geometry().topLeft() + QPoint(20, 4)),
+              QColor(10, 200, 30));
+    c("picPannello", 0).Visible(true);
+    c("picPannello", 0).Sfumatura2(kBianco);
+    const QRect p = w("picPannello", 0).geometry();
+    const QImage scatto = f.grab().toImage();
+    EXPECT_LT(scatto.pixelColor(p.center().x(), p.top() + 2).red(), 30);
+    EXPECT_GT(scatto.pixelColor(p.center().x(), p.bottom() - 2).red(), 240);
+    c("lblReparto", 0).ZOrder();
+    EXPECT_EQ(f.children().last(), &w("lblReparto", 0));
+}
+
+TEST_F(FinestraProva, SoloCioCheCambiaSiRidipinge) {
+    struct Pittore : QObject {
+        QRegion area;
+        bool eventFilter(QObject*, QEvent* e) override {
+            if (e->type() == QEvent::Paint)
+                area += static_cast<QPaintEvent*>(e)->region();
+            return false;
+        }
+    } pittore;
+    mostra();
+    QTest::qWait(0);
+    f.installEventFilter(&pittore);
+    c("lblTitolo").Caption("X");
+    c("lblReparto", 0).Caption("Y");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !pittore.area.isEmpty(); }));
+    EXPECT_TRUE(pittore.area.subtracted(w("lblTitolo").geometry())
+                    .subtracted(w("lblReparto", 0).geometry())
+                    .isEmpty());
+}
+
+TEST_F(FinestraProva, ClicSuCioCheLiAccetta) {
+    mostra();
+    std::vector<std::string> clic;
+    f.alClic([&](const Controllo& x) { clic.push_back(x.NomeCompleto()); });
+    for (const char* nome : {"lblReparto(0)", "cmdAggiorna", "lblTitolo"})
+        QTest::mouseClick(f.findChild<QWidget*>(QLatin1String(nome)), Qt::LeftButton);
+    QTest::mouseClick(&w("lblNumero3", 0), Qt::LeftButton); // lies in a box that takes clicks
+    QTest::mousePress(&w("lblReparto", 0), Qt::LeftButton);
+    QTest::mouseRelease(&w("lblReparto", 0), Qt::LeftButton, {}, QPoint(-20, 5));
+    QTest::keyClick(&w("cmdSpegni"), Qt::Key_Return);
+    EXPECT_EQ(clic, (std::vector<std::string>{"lblReparto(0)", "cmdAggiorna", "picNumero(0)", "cmdSpegni"}));
+}
+
+TEST_F(FinestraProva, ITastiPassanoPrimaDallaFinestra) {
+    mostra();
+    c("txtBarCode").SetFocus();
+    ASSERT_TRUE(w("txtBarCode").hasFocus());
+    QTest::mouseClick(&w("cmdAggiorna"), Qt::LeftButton);
+    EXPECT_TRUE(w("txtBarCode").hasFocus()) << "a touch on a button leaves the scanner's field alone";
+    QString visti, scritti;
+    f.alTasto([&](const QKeyEvent& e) {
+        visti += e.text();
+        return e.text() == QStringLiteral("x");
+    });
+    f.alCambioTesto([&](const Controllo& x) { scritti = QString::fromStdString(x.Caption()); });
+    for (const char k : {'1', 'x', '2', '\r'})
+        QTest::keyClick(f.windowHandle(), k);
+    EXPECT_EQ(visti, QStringLiteral("1x2\r")) << "each key once, though Enter climbs on to the window";
+    EXPECT_EQ(c("txtBarCode").Caption(), "12");
+    EXPECT_EQ(scritti, QStringLiteral("12"));
+}
+
+TEST_F(FinestraProva, ChiusuraAttivazioneESfondo) {
+    int attivazioni = 0, doppi = 0, movimenti = 0;
+    bool concessa = false;
+    f.allaAttivazione([&] { ++attivazioni; });
+    f.allaChiusura([&] { return concessa; });
+    f.alDoppioClicSfondo([&] { ++doppi; });
+    f.alMovimentoPuntatore([&] { ++movimenti; });
+    mostra();
+    EXPECT_EQ(attivazioni, 1);
+    QTest::mouseDClick(&f, Qt::LeftButton, {}, QPoint(1000, 680));
+    QTest::mouseDClick(&w("picLogo"), Qt::LeftButton);
+    EXPECT_EQ(doppi, 2);
+    QTest::mouseDClick(&w("lblTitolo"), Qt::LeftButton);
+    EXPECT_EQ(doppi, 2);
+    movimenti = 0;
+    QTest::mouseMove(&w("lblTitolo"), QPoint(5, 5));
+    EXPECT_GT(movimenti, 0);
+    EXPECT_FALSE(f.close());
+    EXPECT_TRUE(f.isVisible());
+    concessa = true;
+    EXPECT_TRUE(f.close());
+}
+
+TEST(FinestraDentroUnAltra, HaGliAgganciDiQuella) {
+    Controlli c(dimostrativo::kLayout);
+    QMainWindow esterna;
+    auto* f = new Finestra(c);
+    esterna.menuBar()->addMenu(QStringLiteral("Opzioni"));
+    esterna.setCentralWidget(f);
+    int chiusure = 0, tasti = 0;
+    f->allaChiusura([&] { return ++chiusure > 1; });
+    f->alTasto([&](const QKeyEvent&) { return ++tasti > 0; });
+    esterna.resize(1008, 800);
+    esterna.show();
+    esterna.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&esterna));
+    QTest::keyClick(esterna.windowHandle(), Qt::Key_5);
+    EXPECT_EQ(tasti, 1);
+    EXPECT_FALSE(esterna.close());
+    EXPECT_TRUE(esterna.close());
+    EXPECT_EQ(f->height(), 800 - esterna.menuBar()->height());
+}
+
+TEST_F(FinestraProva, UnNumeroESempreIntero) {
+    mostra();
+    for (const QSize misura : {QSize(1008, 693), QSize(640, 480), QSize(3840, 2160)}) {
+        f.resize(misura);
+        auto& e = dynamic_cast<EtichettaWidget&>(w("lblNumero3", 1));
+        const int pieno = e.testo().carattere().pixelSize();
+        const int usato = e.testo().pixelIn(e.area().size());
+        EXPECT_LT(usato, pieno);
+        EXPECT_GT(usato, pieno / 2);
+        QImage carta(e.size() + QSize(80, 80), QImage::Format_RGB32);
+        carta.fill(Qt::black);
+        QPainter p(&carta);
+        e.testo().disegna(p, QRect(QPoint(40, 40), e.size()), Qt::white);
+        int fuori = 0;
+        for (int y = 0; y < carta.height(); ++y)
+            for (int x = 0; x < carta.width(); ++x)
+                if (!QRect(QPoint(39, 39), e.size() + QSize(2, 2)).contains(x, y))
+                    fuori += qRed(carta.pixel(x, y)) > 64;
+        EXPECT_EQ(fuori, 0) << misura.width();
+    }
+}
+
+TEST(TestoAdattato, FrasiVannoACapoNumeriNo) {
+    const QFont grande = [] {
+        QFont f(QStringLiteral("Liberation Sans"));
+        f.setPixelSize(40);
+        return f;
+    }();
+    struct Caso {
+        const char* testo;
+        QSize area;
+        bool intero; ///< at its own size
+    };
+    for (const auto& [testo, area, intero] : {
+             Caso{"A 123", {300, 100}, true},
+             Caso{"A 12345", {100, 200}, false},
+             Caso{"BAR PANINI", {120, 200}, false},
+             Caso{"venite al banco", {180, 200}, true},
+             Caso{"venite al banco", {180, 60}, false},
+             Caso{"uno\r\ndue", {200, 100}, true},
+             Caso{"uno\ndue\ntre", {200, 100}, false},
+             Caso{"88", {200, 32}, true}, // the ink fits, though the line's full height doesn't
+             Caso{"88", {200, 20}, false},
+         }) {
+        TestoAdattato t;
+        t.imposta(QString::fromUtf8(testo), grande, Allineamento::Centro);
+        EXPECT_EQ(t.pixelIn(area) == 40, intero) << testo << " " << area.width() << "x" << area.height();
+    }
+}
+
+TEST_F(FinestraProva, UnaFiguraCheNonCeEUnGuasto) {
+    const auto numero = [&](const char* figura) {
+        try {
+            c("picLogo").Figura(figura);
+        } catch (const Guasto& g) {
+            return g.numero();
+        }
+        return 0;
+    };
+    EXPECT_EQ(numero("/manca/davvero.jpg"), 53);
+    EXPECT_EQ(numero(FIGLIO_GUASTO), 481);
+    EXPECT_EQ(numero("prova"), 0);
+    EXPECT_EQ(numero(""), 0);
+}
+
+} // namespace

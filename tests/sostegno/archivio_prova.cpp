@@ -1,0 +1,85 @@
+#include "tests/sostegno/archivio_prova.h"
+
+#include <stdexcept>
+
+#include <sqlite3.h>
+
+#include "data/schema.h"
+
+namespace lumigrafo::prova {
+
+namespace {
+
+constexpr const char* kData = "20260315";
+
+std::string citata(const std::optional<std::string>& testo) {
+    return testo ? "'" + *testo + "'" : "NULL";
+}
+
+} // namespace
+
+ArchivioProva::ArchivioProva(std::filesystem::path file) {
+    creaArchivio(file);
+    if (sqlite3_open(file.c_str(), &db_) != SQLITE_OK)
+        throw std::runtime_error("no archive at " + file.string());
+    sqlite3_busy_timeout(db_, 5000);
+    esegui("PRAGMA synchronous = OFF"); // a test's own rows needn't outlive a power cut
+    esegui("INSERT INTO Categorie (Codice, Descrizione) VALUES (1, 'Cucina'), (2, 'Bar'), (3, 'Pizzeria')");
+}
+
+ArchivioProva::~ArchivioProva() {
+    sqlite3_close(db_);
+}
+
+void ArchivioProva::ordine(const std::optional<std::string>& sigla, int numero,
+                           const std::vector<std::pair<int, int>>& categorie, bool evidenzia) {
+    esegui("BEGIN IMMEDIATE");
+    const std::string chiave = citata(sigla) + ", " + std::to_string(numero);
+    std::string colonne = "Sigla, Numero, Evidenzia";
+    std::string valori = chiave + ", " + (evidenzia ? "-1" : "0");
+    for (const auto& [codice, pezzi] : categorie) {
+        colonne += ", Categoria" + std::to_string(codice) + ", Pezzi" + std::to_string(codice);
+        valori += ", -1, " + std::to_string(pezzi);
+        const std::string riga = "VALUES (" + chiave + ", ";
+        esegui("INSERT INTO DettaglioLumigrafo (Sigla, Numero, CATEGORIA, SERVITO, MinutiServito) " + riga +
+               std::to_string(codice) + ", 0, 0)");
+        esegui("INSERT INTO Dettaglio (Sigla, Numero, DataCompetenza, SERVITO, MinutiServito) " + riga + kData +
+               ", 0, 0)");
+    }
+    esegui("INSERT INTO Lumigrafo (" + colonne + ") VALUES (" + valori + ")");
+    esegui("INSERT INTO ScontriniEmessi (Sigla, Numero, DataCompetenza, Servito, Stornato) VALUES (" + chiave + ", " +
+           kData + ", 0, 0)");
+    esegui("COMMIT");
+}
+
+void ArchivioProva::esegui(const std::string& sql) {
+    char* errore = nullptr;
+    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &errore) == SQLITE_OK)
+        return;
+    const std::string testo = sql + ": " + errore;
+    sqlite3_free(errore);
+    throw std::runtime_error(testo);
+}
+
+std::string ArchivioProva::leggi(const std::string& sql) {
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(db_, sql.c_str(), -1, &stmt, nullptr) != SQLITE_OK)
+        throw std::runtime_error(sql + ": " + sqlite3_errmsg(db_));
+    std::string tutto;
+    while (sqlite3_step(stmt) == SQLITE_ROW) {
+        if (!tutto.empty())
+            tutto += ' ';
+        for (int i = 0; i < sqlite3_column_count(stmt); ++i) {
+            const auto* testo = reinterpret_cast<const char*>(sqlite3_column_text(stmt, i));
+            tutto += (i ? "|" : "") + std::string(testo ? testo : "NULL");
+        }
+    }
+    sqlite3_finalize(stmt);
+    return tutto;
+}
+
+std::string ArchivioProva::coda() {
+    return leggi("SELECT coalesce(Sigla, '') || Numero FROM Lumigrafo ORDER BY Sigla, Numero");
+}
+
+} // namespace lumigrafo::prova

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+struct sqlite3;
+
+namespace lumigrafo::prova {
+
+/// An archive for a test, written and read through a connection of its own, as another station would.
+class ArchivioProva {
+public:
+    /// Makes a new archive with the categories 1 "Cucina", 2 "Bar", 3 "Pizzeria".
+    explicit ArchivioProva(std::filesystem::path file);
+    ~ArchivioProva();
+    ArchivioProva(const ArchivioProva&) = delete;
+    ArchivioProva& operator=(const ArchivioProva&) = delete;
+
+    /// Adds an order to the queue with its detail lines and its receipt of 15 March 2026: categories and pieces. No
+    /// letter: null.
+    void ordine(const std::optional<std::string>& sigla, int numero,
+                const std::vector<std::pair<int, int>>& categorie, bool evidenzia = false);
+    void esegui(const std::string& sql);
+    /// All rows of a query: fields joined by '|', rows by blanks; null is "NULL".
+    [[nodiscard]] std::string leggi(const std::string& sql);
+    /// "A12 B7": letters and numbers in the queue, in order.
+    [[nodiscard]] std::string coda();
+
+private:
+    sqlite3* db_ = nullptr;
+};
+
+} // namespace lumigrafo::prova
