@@ -1,15 +1,14 @@
 // What the archive costs, beside the same statements on the bare engine.
-#include <benchmark/benchmark.h>
+#include "data/cls_recordset.h"
+#include "data/istruzioni.h"
+#include "data/schema.h"
 
+#include <benchmark/benchmark.h>
 #include <filesystem>
 #include <memory>
 #include <sqlite3.h>
 #include <string>
 #include <vector>
-
-#include "data/cls_recordset.h"
-#include "data/istruzioni.h"
-#include "data/schema.h"
 
 using namespace lumigrafo;
 
@@ -26,9 +25,10 @@ public:
         const auto db = ws.OpenDatabase(file());
         ws.BeginTrans();
         for (int i = 1; i <= ordini; ++i)
-            db->Execute("INSERT INTO Lumigrafo (Sigla, Numero, Categoria1, Categoria3, Pezzi1, Pezzi3) VALUES ('" +
-                        std::string(1, static_cast<char>('A' + i * 7 % 5)) + "'," + std::to_string(i) +
-                        ",-1,-1," + std::to_string(i % 9 + 1) + ",2)");
+            db->Execute(
+                "INSERT INTO Lumigrafo (Sigla, Numero, Categoria1, Categoria3, Pezzi1, Pezzi3) VALUES ('" +
+                std::string(1, static_cast<char>('A' + i * 7 % 5)) + "'," + std::to_string(i) + ",-1,-1," +
+                std::to_string(i % 9 + 1) + ",2)");
         ws.CommitTrans();
     }
     ~Archivio() { std::filesystem::remove_all(cartella); }
@@ -60,7 +60,8 @@ public:
 /// The program's side: the archive through clsRecordset.
 struct Programma {
     explicit Programma(const Archivio& a)
-        : db(ws.OpenDatabase(a.file())), contesto{*db, a.cartella.string(), orologio, avvisi, uscita, sistema} {}
+        : db(ws.OpenDatabase(a.file())), contesto{*db,    a.cartella.string(), orologio, avvisi, uscita,
+                                                  sistema} {}
     Workspace ws;
     std::unique_ptr<Database> db;
     OrologioFermo orologio;

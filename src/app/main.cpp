@@ -1,12 +1,12 @@
-#include <cstdio>
-
-#include <QCoreApplication>
-
 #include "app/programma.h"
 #include "app/riga_comando.h"
 #include "platform/qt/applicazione.h"
 #include "platform/qt/avvisi_qt.h"
 #include "platform/qt/uscita_qt.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
 
 int main(int argc, char** argv) {
     using namespace lumigrafo;

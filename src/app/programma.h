@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include "app/dialoghi_qt.h"
 #include "boards/crea_videata.h"
 #include "console/qt/frmGestione.h"
@@ -12,6 +10,8 @@
 #include "platform/qt/pompa_qt.h"
 #include "platform/qt/timers_qt.h"
 #include "settings/qt/messaggi_qt.h"
+
+#include <memory>
 
 namespace lumigrafo {
 

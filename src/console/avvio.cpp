@@ -1,11 +1,11 @@
 #include "console/avvio.h"
 
-#include <filesystem>
-#include <fstream>
-
 #include "console/dialogo.h"
 #include "platform/conversioni.h"
 #include "platform/guasto.h"
+
+#include <filesystem>
+#include <fstream>
 
 namespace lumigrafo {
 
@@ -76,7 +76,8 @@ void Avvio::istanzaUnica() {
     const bool precedente = c_.porte.sistema.istanzaPrecedente();
     if (!precedente || c_.porte.ambiente.riavvio())
         return;
-    c_.porte.messaggi.MostraMessaggio("Lumigrafo risulta già avviato, in caso di problemi riavviare il pc.", 4);
+    c_.porte.messaggi.MostraMessaggio("Lumigrafo risulta già avviato, in caso di problemi riavviare il pc.",
+                                      4);
     c_.porte.uscita.termina(0);
 }
 
@@ -101,8 +102,9 @@ void Avvio::archivioNonTrovato() {
     Timer1_.abilita(false);
     std::string esito;
     ignorandoGuasti([&] { esito = esitoEco(); });
-    c_.porte.avvisi.chiedi({"Errore di collegamento al database " + c_.stato.PathArchivio + "\r\n\r\n" + esito,
-                            "", Icona::Esclamazione, Bottoni::Ok});
+    c_.porte.avvisi.chiedi(
+        {"Errore di collegamento al database " + c_.stato.PathArchivio + "\r\n\r\n" + esito, "",
+         Icona::Esclamazione, Bottoni::Ok});
     ignorandoGuasti([this] { dialogo(c_, [this] { c_.porte.dialoghi.frmDatabase(); }); });
     c_.porte.uscita.termina(0);
 }
@@ -116,7 +118,8 @@ std::string Avvio::esitoEco() const {
     if (c_.porte.sistema.eco(server))
         return "PING SU " + server + " RIUSCITO CORRETTAMENTE";
     return "PING SU " + server +
-           " NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi di rete siano collegati e che i "
+           " NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi di rete siano collegati e "
+           "che i "
            "led del switch siano accesi.";
 }
 
@@ -125,9 +128,9 @@ void Avvio::apriArchivio() {
     try {
         c_.stato.Db = c_.stato.Ws->OpenDatabase(c_.stato.PathArchivio);
     } catch (const Guasto& guasto) {
-        c_.porte.avvisi.chiedi({"Errore " + std::to_string(guasto.numero()) +
-                                    " apertura database: " + c_.stato.PathArchivio,
-                                "ERRORE", Icona::Critica, Bottoni::Ok});
+        c_.porte.avvisi.chiedi(
+            {"Errore " + std::to_string(guasto.numero()) + " apertura database: " + c_.stato.PathArchivio,
+             "ERRORE", Icona::Critica, Bottoni::Ok});
         c_.porte.uscita.termina(1);
     }
 }
@@ -149,8 +152,9 @@ void Avvio::togliVideataVecchia() {
 void Avvio::leggiAndroid() {
     for (std::size_t i = 0; i < c_.stato.IpDroid.size(); ++i) {
         const std::string cifra = std::to_string(i);
-        c_.stato.IpDroid[i] = {c_.impostazioni.LeggiIni(kSezioneAndroid, "IpLumDroid" + cifra),
-                               aIntero16(c_.impostazioni.LeggiIni(kSezioneAndroid, "FontGruppiDroid" + cifra, 0))};
+        c_.stato.IpDroid[i] = {
+            c_.impostazioni.LeggiIni(kSezioneAndroid, "IpLumDroid" + cifra),
+            aIntero16(c_.impostazioni.LeggiIni(kSezioneAndroid, "FontGruppiDroid" + cifra, 0))};
     }
 }
 

@@ -10,11 +10,11 @@ namespace lumigrafo {
 class Avvio {
 public:
     /// `Timer1` is the periodic rebuild of the grids.
-    Avvio(ContestoConsole& contesto, Caricatore& caricatore, DispositoreConsole& dispositore, Comandi& comandi,
-          Timer& Timer1);
+    Avvio(ContestoConsole& contesto, Caricatore& caricatore, DispositoreConsole& dispositore,
+          Comandi& comandi, Timer& Timer1);
 
-    /// One strictly ordered sequence. It ends the process where another instance runs, and where the archive isn't
-    /// found or can't be opened.
+    /// One strictly ordered sequence. It ends the process where another instance runs, and where the archive
+    /// isn't found or can't be opened.
     void carica();
     /// Each activation of the window; only the first after the load has an effect.
     void attiva();

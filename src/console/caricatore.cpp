@@ -1,12 +1,12 @@
 #include "console/caricatore.h"
 
-#include <array>
-#include <chrono>
-
 #include "console/colonne.h"
 #include "console/testi.h"
 #include "data/istruzioni.h"
 #include "platform/guasto.h"
+
+#include <array>
+#include <chrono>
 
 namespace lumigrafo {
 
@@ -105,7 +105,8 @@ private:
 Caricatore::Caricatore(ContestoConsole& contesto) : c_(contesto) {}
 
 ContestoDati Caricatore::contestoDati() {
-    return {*c_.stato.Db, c_.stato.PathDB, c_.porte.orologio, c_.porte.avvisi, c_.porte.uscita, c_.porte.sistema};
+    return {*c_.stato.Db,    c_.stato.PathDB, c_.porte.orologio,
+            c_.porte.avvisi, c_.porte.uscita, c_.porte.sistema};
 }
 
 void Caricatore::CaricaVideataInizio(bool) {
@@ -191,7 +192,8 @@ void Caricatore::ContaPezzi() {
     clsRecordset rs(contestoDati());
     rs.Apri("ContaPezzi", true, istruzioni::kSommaPezzi, false, true);
     if (rs.Errore() == 0)
-        for (const std::size_t k : {0, 3, 1, 2}) // a category of 0 has no sum, and a null one leaves the last figure
+        for (const std::size_t k :
+             {0, 3, 1, 2}) // a category of 0 has no sum, and a null one leaves the last figure
             ignorandoGuasti([&] {
                 const std::int16_t categoria = c_.stato.Categoria[k];
                 c_.stato.PezziCategoria.at(static_cast<std::size_t>(categoria)) =

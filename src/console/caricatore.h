@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
-
 #include "console/contesto.h"
 #include "data/cls_recordset.h"
+
+#include <cstdint>
 
 namespace lumigrafo {
 
@@ -12,8 +12,8 @@ class Caricatore {
 public:
     explicit Caricatore(ContestoConsole& contesto);
 
-    /// Rebuilds the three grids from empty. A second entry, through the events that it lets through, returns at
-    /// once. The argument, true from the timer and false from a button, changes nothing.
+    /// Rebuilds the three grids from empty. A second entry, through the events that it lets through, returns
+    /// at once. The argument, true from the timer and false from a button, changes nothing.
     void CaricaVideataInizio(bool periodica);
     /// The department of each quadrant, from its category.
     void CaricaCategorie();

@@ -1,12 +1,12 @@
 #include "console/chiamata.h"
 
-#include <array>
-
 #include "console/colonne.h"
 #include "console/servito.h"
 #include "console/testi.h"
 #include "console/ultimi_chiamati.h"
 #include "platform/guasto.h"
+
+#include <array>
 
 namespace lumigrafo {
 
@@ -17,7 +17,8 @@ namespace {
 constexpr std::array kEta = {"lblNumero3", "lblNumero2", "lblNumero1", "lblNumero4", "lblNumero5",
                              "lblNumero6", "lblNumero7", "lblNumero8", "lblNumero9"};
 
-/// Nine numbers need the setting and a board that has them: the standard one has six whatever the setting says.
+/// Nine numbers need the setting and a board that has them: the standard one has six whatever the setting
+/// says.
 std::size_t quantiPosti(const StatoConsole& stato, std::int16_t index) {
     return stato.Lumigrafo9Numeri && stato.frmVideata->controlli().cerca("lblNumero7", index) ? 9 : 6;
 }
@@ -50,7 +51,8 @@ std::string testoAnnuncio(const ContestoConsole& c, int quadrante, const std::st
     return prima + " " + testo;
 }
 
-Chiamata::Chiamata(ContestoConsole& contesto, Caricatore& caricatore) : c_(contesto), caricatore_(caricatore) {}
+Chiamata::Chiamata(ContestoConsole& contesto, Caricatore& caricatore)
+    : c_(contesto), caricatore_(caricatore) {}
 
 void Chiamata::clicGriglia(std::int16_t q) {
     using namespace std::chrono_literals;
@@ -196,8 +198,8 @@ bool Chiamata::categorieAperte(Recordset& rs) {
 
 void Chiamata::svuotaCella(std::int16_t index, int riga, int colonna) {
     Griglia& grid = c_.stato.grid.at(static_cast<std::size_t>(index));
-    // A rebuild in the middle of the call can have moved the orders: the cell is emptied where it stood, whatever
-    // stands there now, and comes back at the next rebuild. It can also be gone.
+    // A rebuild in the middle of the call can have moved the orders: the cell is emptied where it stood,
+    // whatever stands there now, and comes back at the next rebuild. It can also be gone.
     if (riga >= 0 && riga < grid.Rows() && colonna >= 0 && colonna < grid.Cols())
         grid.testo(riga, colonna, "");
 }

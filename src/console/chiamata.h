@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
-
 #include "console/caricatore.h"
 #include "console/contesto.h"
+
+#include <cstdint>
+#include <string>
 
 namespace lumigrafo {
 
@@ -17,8 +17,8 @@ public:
     void clicGriglia(std::int16_t q);
     /// Puts a number into the quadrant's newest slot, unless it is on show there already.
     void MostraNumero(std::int16_t index, const std::string& sigla, const std::string& numero);
-    /// Strikes the number's category off the queue and empties its cell; -1 takes the grid's current row or column. A
-    /// number that is no longer in the queue keeps its cell until the next rebuild.
+    /// Strikes the number's category off the queue and empties its cell; -1 takes the grid's current row or
+    /// column. A number that is no longer in the queue keeps its cell until the next rebuild.
     void AggiornaGridDB(const std::string& sigla, const std::string& numero, std::int16_t index,
                         std::int16_t riga, std::int16_t colonna);
 
@@ -26,7 +26,8 @@ public:
     void annuncia(std::int16_t q, const std::string& sigla, const std::string& numero);
 
 private:
-    void chiama(std::int16_t q, const std::string& cella, const std::string& sigla, const std::string& numero);
+    void chiama(std::int16_t q, const std::string& cella, const std::string& sigla,
+                const std::string& numero);
     [[nodiscard]] bool giaInMostra(std::int16_t index, const std::string& testo) const;
     void scorri(std::int16_t index, const std::string& testo);
     void salvaVideata(std::int16_t index);
@@ -42,6 +43,7 @@ private:
 };
 
 /// What the voice says of a number: the department's name where there are several, the key word otherwise.
-[[nodiscard]] std::string testoAnnuncio(const ContestoConsole& contesto, int quadrante, const std::string& testo);
+[[nodiscard]] std::string testoAnnuncio(const ContestoConsole& contesto, int quadrante,
+                                        const std::string& testo);
 
 } // namespace lumigrafo

@@ -14,8 +14,9 @@ struct CodiceScontrino {
     std::string numero;         ///< decimal without leading zeros; empty where its digits are none
 };
 
-/// Reads a code of 13 digits: the prefix 599, two digits of the letter's character code, two of the category, five of
-/// the number, and a check digit that isn't tested. What is no such code gives the message for the operator instead.
+/// Reads a code of 13 digits: the prefix 599, two digits of the letter's character code, two of the category,
+/// five of the number, and a check digit that isn't tested. What is no such code gives the message for the
+/// operator instead.
 [[nodiscard]] std::variant<CodiceScontrino, std::string> leggiCodice(std::string_view testo);
 
 } // namespace lumigrafo

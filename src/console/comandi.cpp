@@ -1,9 +1,9 @@
 #include "console/comandi.h"
 
+#include "console/dialogo.h"
+
 #include <chrono>
 #include <filesystem>
-
-#include "console/dialogo.h"
 
 namespace lumigrafo {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "console/contesto.h"
+
 #include <functional>
 #include <memory>
-
-#include "console/contesto.h"
 
 namespace lumigrafo {
 

@@ -1,11 +1,11 @@
 #include "console/console.h"
 
-#include <algorithm>
-#include <array>
-
 #include "console/dialogo.h"
 #include "console/layout_frmGestione.h"
 #include "platform/guasto.h"
+
+#include <algorithm>
+#include <array>
 
 namespace lumigrafo {
 
@@ -50,7 +50,8 @@ void Console::clic(std::string_view nome, int indice) {
         Azione{"cmdLumigrafo", [](Console& c, int) { c.comandi_.cmdLumigrafo(); }},
         Azione{"cmdModalita", [](Console& c, int) { c.comandi_.cmdModalita(); }},
         Azione{"cmdPulisciLumigrafo", [](Console& c, int) { c.comandi_.cmdPulisciLumigrafo(); }},
-        Azione{"cmdPosizionaLumigrafo", [](Console& c, int) { c.contesto_.porte.dialoghi.PosizionaLumigrafo(); }},
+        Azione{"cmdPosizionaLumigrafo",
+               [](Console& c, int) { c.contesto_.porte.dialoghi.PosizionaLumigrafo(); }},
         Azione{"cmdComunicazione", [](Console& c, int) { c.cmdComunicazione(); }},
         Azione{"cmdRipristina", [](Console& c, int) { c.cmdRipristina(); }},
         Azione{"cmdUscita", [](Console& c, int) { c.comandi_.cmdUscita(); }},
@@ -58,7 +59,8 @@ void Console::clic(std::string_view nome, int indice) {
         Azione{"cmdSpegni", [](Console& c, int) { c.comandi_.cmdSpegni(); }},
         Azione{"cmdAvanti", [](Console& c, int) { c.cmdAvanti(); }},
     };
-    const auto azione = std::find_if(kAzioni.begin(), kAzioni.end(), [&](const Azione& a) { return a.nome == nome; });
+    const auto azione =
+        std::find_if(kAzioni.begin(), kAzioni.end(), [&](const Azione& a) { return a.nome == nome; });
     if (azione != kAzioni.end())
         azione->fai(*this, indice);
 }

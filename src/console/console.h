@@ -1,17 +1,17 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-
 #include "console/avvio.h"
 #include "console/ripetizione.h"
 #include "console/scansione.h"
 
+#include <memory>
+#include <optional>
+#include <string>
+
 namespace lumigrafo {
 
-/// The console apart from its window: the running state, its one owner, and the routines that work on it. The window
-/// hands its events on to here.
+/// The console apart from its window: the running state, its one owner, and the routines that work on it. The
+/// window hands its events on to here.
 class Console {
 public:
     Console(const PorteConsole& porte, FinestraConsole& finestra, FabbricaVideata fabbrica);

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <string_view>
-
 #include "announce/annunciatore.h"
 #include "announce/fiscale.h"
-#include "settings/dialoghi.h"
 #include "console/finestra_console.h"
 #include "console/stato.h"
 #include "forms/controlli.h"
@@ -17,8 +14,11 @@
 #include "platform/processi.h"
 #include "platform/sistema.h"
 #include "platform/timer.h"
+#include "settings/dialoghi.h"
 #include "settings/ini/ini.h"
 #include "settings/messaggi.h"
+
+#include <string_view>
 
 namespace lumigrafo {
 
@@ -51,8 +51,8 @@ struct ContestoConsole {
     FileIni videata{porte.ambiente.file(kFileVideata)};
     FileIni ultimi{porte.ambiente.file(kFileUltimiChiamati)};
 
-    /// Lets pending events through. While a scanned code is being worked on, keys stay in the queue: they belong to
-    /// the next code, and `txtBarCode` is emptied at the end.
+    /// Lets pending events through. While a scanned code is being worked on, keys stay in the queue: they
+    /// belong to the next code, and `txtBarCode` is emptied at the end.
     void cedi(std::string_view punto) {
         porte.pompa.cedi(punto, stato.BarCodeInCorso ? Ammessi::SenzaTastiera : Ammessi::Tutti);
     }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <utility>
-
 #include "console/contesto.h"
 #include "settings/processo.h"
+
+#include <utility>
 
 namespace lumigrafo {
 

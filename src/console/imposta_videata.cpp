@@ -1,10 +1,10 @@
 #include "console/imposta_videata.h"
 
-#include <string>
-#include <utility>
-
 #include "console/scelta_videata.h"
 #include "platform/conversioni.h"
+
+#include <string>
+#include <utility>
 
 namespace lumigrafo {
 
@@ -87,7 +87,8 @@ void DispositoreConsole::sceglieVideata() {
 void DispositoreConsole::ImpostaUnReparto() {
     c_.stato.SoloUnReparto = true;
     Controllo& grid0 = c_.controlli("grid", 0);
-    // The console fills its screen, so the screen's width in the console's own measures is that of the layout.
+    // The console fills its screen, so the screen's width in the console's own measures is that of the
+    // layout.
     const Twip schermo = c_.controlli.layout().larghezza;
     const Twip larghezza = arrotondato(schermo - c_.controlli("cmdAllarga").Width() - grid0.Left() - 400);
     grid0.Width(larghezza);

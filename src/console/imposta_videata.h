@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-
 #include "boards/famiglia.h"
 #include "console/caricatore.h"
 #include "console/contesto.h"
+
+#include <functional>
+#include <memory>
 
 namespace lumigrafo {
 

@@ -1,8 +1,8 @@
 #include "console/layout_frmGestione.h"
 
-#include <array>
-
 #include "forms/verifica.h"
+
+#include <array>
 
 namespace lumigrafo {
 

@@ -1,11 +1,11 @@
 #include "console/scansione.h"
 
-#include <chrono>
-
 #include "console/codice_scontrino.h"
 #include "console/testi.h"
 #include "console/ultimi_chiamati.h"
 #include "platform/guasto.h"
+
+#include <chrono>
 
 namespace lumigrafo {
 
@@ -21,14 +21,14 @@ constexpr std::size_t kTestoLungo = 30; ///< characters; longer ones take the sm
 } // namespace
 
 Scansione::Scansione(ContestoConsole& contesto, Chiamata& chiamata)
-    : c_(contesto), chiamata_(chiamata),
-      TimerBarCode_(c_.porte.timers.crea(500ms, [this] { scatto(); })) {}
+    : c_(contesto), chiamata_(chiamata), TimerBarCode_(c_.porte.timers.crea(500ms, [this] { scatto(); })) {}
 
 bool Scansione::tasto(char32_t carattere) {
     Controllo& casella = c_.controlli("txtBarCode");
     if (!casella.Visible() || !casella.Enabled())
         return false;
-    const bool delCodice = (carattere >= U'0' && carattere <= U'9') || (carattere >= U'A' && carattere <= U'Z');
+    const bool delCodice =
+        (carattere >= U'0' && carattere <= U'9') || (carattere >= U'A' && carattere <= U'Z');
     if (delCodice) {
         TimerBarCode_->abilita(false);
         casella.Caption(casella.Caption() + static_cast<char>(carattere));
@@ -100,8 +100,8 @@ void Scansione::chiama(std::int16_t quadrante, const std::string& sigla, const s
         MostraEsitoBarCode(false, kCodiceErrato); // a number beyond any order's
         return;
     }
-    // The mode isn't asked for: a scan always calls. A number that isn't in the grid goes on the board all the same,
-    // without strike-off, list entry and receipt.
+    // The mode isn't asked for: a scan always calls. A number that isn't in the grid goes on the board all
+    // the same, without strike-off, list entry and receipt.
     const bool trovato = trovaCella(quadrante, testo);
     if (trovato)
         AggiornaUltimiChiamati(c_.stato, c_.ultimi, quadrante, testo);

@@ -3,7 +3,8 @@
 namespace lumigrafo {
 
 SceltaVideata scegliVideata(const StatoConsole& stato) {
-    // The order of the tests counts: the next-customer system first, then one department alone, then the type.
+    // The order of the tests counts: the next-customer system first, then one department alone, then the
+    // type.
     if (stato.TipoLumigrafo == 4)
         return {TipoVideata::frmAvantiProssimo, true};
     if (stato.Categoria[1] <= 0 && stato.Categoria[2] <= 0 && stato.TipoLumigrafo != 2) {

@@ -12,8 +12,8 @@ struct SceltaVideata {
     friend constexpr bool operator==(const SceltaVideata&, const SceltaVideata&) = default;
 };
 
-/// From the type, the nine-number flag and the categories of the quadrants. An unknown type gives the standard
-/// board.
+/// From the type, the nine-number flag and the categories of the quadrants. An unknown type gives the
+/// standard board.
 [[nodiscard]] SceltaVideata scegliVideata(const StatoConsole& stato);
 
 } // namespace lumigrafo

@@ -19,8 +19,8 @@ void AggiornaDBLumigrafoCucina(const StatoConsole& stato, const Orologio& orolog
     };
     // With one department the lines of the whole order are marked, whatever their category.
     if (stato.Categoria[2] != 0 || stato.Categoria[1] != 0)
-        stato.Db->Execute(istruzioni::dettaglioLumigrafo(servito, minuti(), sigla, numero,
-                                                         stato.Categoria.at(static_cast<std::size_t>(index))));
+        stato.Db->Execute(istruzioni::dettaglioLumigrafo(
+            servito, minuti(), sigla, numero, stato.Categoria.at(static_cast<std::size_t>(index))));
     else
         stato.Db->Execute(istruzioni::dettaglioLumigrafo(servito, minuti(), sigla, numero));
     stato.Db->Execute(istruzioni::dettaglio(servito, minuti(), sigla, numero, SqlDate(stato.DataCompetenza)));

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <memory>
-#include <string>
-
 #include "boards/videata.h"
 #include "data/dao.h"
 #include "forms/griglia.h"
 #include "platform/orologio.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
 
 namespace lumigrafo {
 

@@ -1,12 +1,12 @@
 #include "data/campo.h"
 
-#include <algorithm>
-#include <charconv>
-#include <utility>
-
 #include "data/errori_dao.h"
 #include "data/recordset.h"
 #include "platform/conversioni.h"
+
+#include <algorithm>
+#include <charconv>
+#include <utility>
 
 namespace lumigrafo {
 
@@ -108,7 +108,8 @@ void Fields::indicizza() {
         caselle *= 2;
     indice_.assign(caselle, 0);
     for (std::size_t i = 0; i < campi_.size(); ++i)
-        if (auto& posto = indice_[casella(campi_[i].Name())]; posto == 0) // of two like names the first counts
+        if (auto& posto = indice_[casella(campi_[i].Name())];
+            posto == 0) // of two like names the first counts
             posto = static_cast<std::uint16_t>(i + 1);
 }
 
@@ -117,7 +118,8 @@ std::size_t Fields::casella(std::string_view nome) const {
     // Length and last letters tell columns like Pezzi1 to Pezzi10 apart.
     std::size_t i = nome.size() * 11;
     if (!nome.empty())
-        i += static_cast<std::size_t>(minuscola(nome.back())) + 41 * static_cast<std::size_t>(minuscola(nome.front()));
+        i += static_cast<std::size_t>(minuscola(nome.back())) +
+             41 * static_cast<std::size_t>(minuscola(nome.front()));
     for (i &= maschera; indice_[i] != 0; i = (i + 1) & maschera) {
         const std::string& presente = campi_[indice_[i] - 1u].Name();
         if (presente == nome || ugualeSenzaMaiuscole(presente, nome))

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "data/valore.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "data/valore.h"
-
 namespace lumigrafo {
 
 class Recordset;
 
-/// One column of a record set. It stands for the current row's value, whichever row that is, and lives as long as
-/// the record set.
+/// One column of a record set. It stands for the current row's value, whichever row that is, and lives as
+/// long as the record set.
 class Field {
 public:
     Field(Recordset& insieme, std::size_t indice, std::string nome, std::string colonna, const char* tipo);
@@ -26,8 +26,9 @@ public:
     /// The table's column behind it; empty for a computed one.
     [[nodiscard]] const std::string& colonna() const { return colonna_; }
 
-    /// After Edit or AddNew the value that Update will write, once one was set; null for what AddNew leaves to the
-    /// table's default. Throws Guasto 3021 without a current row, 3167 on a deleted one, 3420 after Close.
+    /// After Edit or AddNew the value that Update will write, once one was set; null for what AddNew leaves
+    /// to the table's default. Throws Guasto 3021 without a current row, 3167 on a deleted one, 3420 after
+    /// Close.
     [[nodiscard]] Valore Value() const;
     /// Converts to the column's type: a truth value is stored as -1 or 0. Throws Guasto 3020 outside Edit and
     /// AddNew, 3421 for what can't be converted, 3163 for a text that is too long.

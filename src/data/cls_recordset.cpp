@@ -1,10 +1,10 @@
 #include "data/cls_recordset.h"
 
-#include <chrono>
-#include <fstream>
-
 #include "platform/conversioni.h"
 #include "platform/guasto.h"
+
+#include <chrono>
+#include <fstream>
 
 namespace lumigrafo {
 
@@ -65,7 +65,8 @@ void clsRecordset::Apri(const std::string& Chiamante, bool, const std::string& S
             CodiceErrore_ = 0;
         }
     } catch (const Guasto& guasto) {
-        termina(kTitolo, "Errore nel metodo Apri (tabella:" + Sorgente_ + " ) chiamato da " + Chiamante_, guasto);
+        termina(kTitolo, "Errore nel metodo Apri (tabella:" + Sorgente_ + " ) chiamato da " + Chiamante_,
+                guasto);
     }
 }
 
@@ -84,9 +85,9 @@ void clsRecordset::Chiudi() {
     ignorandoGuasti([this] { eliminaSeLibero(nellArchivio(Sorgente_ + ".txt")); });
 }
 
-bool clsRecordset::Start(const std::string& chiamante, const std::string& Campo1, const std::string& Operatore1,
-                         const std::string& Valore1, const std::string& Campo2, const std::string& Operatore2,
-                         const std::string& Valore2) {
+bool clsRecordset::Start(const std::string& chiamante, const std::string& Campo1,
+                         const std::string& Operatore1, const std::string& Valore1, const std::string& Campo2,
+                         const std::string& Operatore2, const std::string& Valore2) {
     std::string criterio;
     try {
         CodiceErrore_ = 0;
@@ -114,8 +115,8 @@ void clsRecordset::LeggiNext(const std::string& chiamante) {
             CodiceErrore_ = kFineDati;
     } catch (const Guasto& guasto) {
         termina(kTitolo,
-                "Errore nel metodo LeggiNext chiamato da " + (chiamante.empty() ? Chiamante_ : chiamante) + kACapo +
-                    "Recordset:" + Sorgente_,
+                "Errore nel metodo LeggiNext chiamato da " + (chiamante.empty() ? Chiamante_ : chiamante) +
+                    kACapo + "Recordset:" + Sorgente_,
                 guasto);
     }
 }
@@ -148,7 +149,8 @@ void clsRecordset::CancellazioneRecordSet(const std::string& chiamante) {
         }
     } catch (const Guasto& guasto) {
         termina(kTitolo,
-                "Errore nel metodo CancellazioneRecordset chiamato da " + chiamante + kACapo + "Recordset:" + Sorgente_,
+                "Errore nel metodo CancellazioneRecordset chiamato da " + chiamante + kACapo +
+                    "Recordset:" + Sorgente_,
                 guasto);
     }
 }
@@ -179,8 +181,8 @@ bool clsRecordset::BloccaSblocca(const std::string& Nome, bool Attendi) {
     const std::filesystem::path nota = nellArchivio("user_" + Nome + ".txt");
     while (prendiFileBlocco(Nome) == guasti::kPermessoNegato) {
         if (!Attendi) {
-            c_.avvisi.chiedi({"File " + Nome + " già aperto in uso esclusivo da " + primaRiga(nota), "", Icona::Nessuna,
-                              Bottoni::Ok});
+            c_.avvisi.chiedi({"File " + Nome + " già aperto in uso esclusivo da " + primaRiga(nota), "",
+                              Icona::Nessuna, Bottoni::Ok});
             return true;
         }
         if (maiuscolo(Nome) == "NUMERO")

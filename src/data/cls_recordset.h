@@ -1,16 +1,16 @@
 #pragma once
 
-#include <cstdint>
-#include <filesystem>
-#include <memory>
-#include <optional>
-#include <string>
-
 #include "data/dao.h"
 #include "platform/avvisi.h"
 #include "platform/file.h"
 #include "platform/orologio.h"
 #include "platform/sistema.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
 
 namespace lumigrafo {
 
@@ -24,23 +24,25 @@ struct ContestoDati {
     Sistema& sistema;
 };
 
-/// One query, row by row. A failure of the archive in Apri, Start, LeggiNext or CancellazioneRecordSet shows a
-/// critical box titled "clsRecordset" and ends the program; missing data is a code that the caller tests.
+/// One query, row by row. A failure of the archive in Apri, Start, LeggiNext or CancellazioneRecordSet shows
+/// a critical box titled "clsRecordset" and ends the program; missing data is a code that the caller tests.
 ///
-/// With `Esclusivo` it holds a lock among stations: a file `<Sorgente>.txt` in the archive's folder, held open from
-/// Apri to Chiudi, and beside it `user_<Sorgente>.txt` with the holder's name, which is left lying.
+/// With `Esclusivo` it holds a lock among stations: a file `<Sorgente>.txt` in the archive's folder, held
+/// open from Apri to Chiudi, and beside it `user_<Sorgente>.txt` with the holder's name, which is left lying.
 class clsRecordset {
 public:
     explicit clsRecordset(const ContestoDati& contesto) : c_(contesto) {}
 
-    /// Opens a table or an SQL text and stands on its first row. `Errore` is then 0, 10 for an empty set, or 93 where
-    /// the lock was refused and nothing was opened. `Chiamante` appears in messages. `Riservato` changes nothing.
-    /// `Attendi`: wait for the lock rather than be refused; once a second for "NUMERO", else without a pause.
-    void Apri(const std::string& Chiamante, bool Riservato, const std::string& Sorgente, bool Esclusivo, bool Attendi);
+    /// Opens a table or an SQL text and stands on its first row. `Errore` is then 0, 10 for an empty set, or
+    /// 93 where the lock was refused and nothing was opened. `Chiamante` appears in messages. `Riservato`
+    /// changes nothing. `Attendi`: wait for the lock rather than be refused; once a second for "NUMERO", else
+    /// without a pause.
+    void Apri(const std::string& Chiamante, bool Riservato, const std::string& Sorgente, bool Esclusivo,
+              bool Attendi);
     /// Closes the set and drops the lock; fails at nothing. Apri may follow.
     void Chiudi();
-    /// Stands on the first row that meets one condition, or two where `Campo2` isn't empty, and returns true; else
-    /// `Errore` is 23. Text values come quoted.
+    /// Stands on the first row that meets one condition, or two where `Campo2` isn't empty, and returns true;
+    /// else `Errore` is 23. Text values come quoted.
     bool Start(const std::string& chiamante, const std::string& Campo1, const std::string& Operatore1,
                const std::string& Valore1, const std::string& Campo2 = {}, const std::string& Operatore2 = {},
                const std::string& Valore2 = {});
@@ -66,8 +68,8 @@ public:
 private:
     /// True: the lock was refused.
     bool BloccaSblocca(const std::string& Nome, bool Attendi);
-    /// The number of the failure to take the lock file: 0, or 70 where another station holds it. Any other failure
-    /// ends the program.
+    /// The number of the failure to take the lock file: 0, or 70 where another station holds it. Any other
+    /// failure ends the program.
     int prendiFileBlocco(const std::string& Nome);
     static void AggiornaRecordset(Recordset& rs);
     [[nodiscard]] std::filesystem::path nellArchivio(const std::string& file) const;

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "data/errori_dao.h"
+#include "data/recordset.h"
+#include "data/sessione.h"
+#include "data/valore.h"
+
 #include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "data/errori_dao.h"
-#include "data/recordset.h"
-#include "data/sessione.h"
-#include "data/valore.h"
 
 /// The archive in the words of DAO. All of it belongs to one thread.
 namespace lumigrafo {
@@ -25,12 +25,14 @@ public:
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    /// Runs one statement that changes rows, whole or not at all; returns how many rows it changed. Throws Guasto:
-    /// 3075 (syntax), 3078 (no such table), 3061 (no such column), 3022 (duplicate key), 3218 and 3186 (locked by
-    /// another station for the whole wait), 3027 (read-only), 3065 (a selection), 3420 (closed).
+    /// Runs one statement that changes rows, whole or not at all; returns how many rows it changed. Throws
+    /// Guasto: 3075 (syntax), 3078 (no such table), 3061 (no such column), 3022 (duplicate key), 3218 and
+    /// 3186 (locked by another station for the whole wait), 3027 (read-only), 3065 (a selection), 3420
+    /// (closed).
     std::int32_t Execute(const std::string& sql) { return sessione_->esegui(sql); }
     /// A table by name or a selection, in the program's SQL. Throws Guasto as Execute does, 3187 for a lock.
-    [[nodiscard]] std::unique_ptr<Recordset> OpenRecordset(const std::string& sorgente, int tipo = dao::dbOpenDynaset);
+    [[nodiscard]] std::unique_ptr<Recordset> OpenRecordset(const std::string& sorgente,
+                                                           int tipo = dao::dbOpenDynaset);
     /// Closes its record sets as well, giving up what they were changing. It can be closed again.
     void Close() { sessione_->chiudi(); }
 
@@ -45,13 +47,13 @@ public:
     static constexpr std::chrono::milliseconds kAttesa{5000};
     explicit Workspace(std::chrono::milliseconds attesa = kAttesa) : attesa_(attesa) {}
 
-    /// Opens an archive shared, for reading and writing; the kind of file is told by its first bytes. UTF-8 path.
-    /// Throws Guasto 3024 (no such file), 3044 (no such folder), 3051 (not to be opened), 3343 (no archive that this
-    /// version reads), 3045 (in use exclusively).
+    /// Opens an archive shared, for reading and writing; the kind of file is told by its first bytes. UTF-8
+    /// path. Throws Guasto 3024 (no such file), 3044 (no such folder), 3051 (not to be opened), 3343 (no
+    /// archive that this version reads), 3045 (in use exclusively).
     [[nodiscard]] std::unique_ptr<Database> OpenDatabase(const std::string& percorso);
 
-    /// What is written from here on, in every archive that is open, is kept as a whole by CommitTrans or undone as
-    /// a whole by Rollback. Throws Guasto 3218 where another station is writing.
+    /// What is written from here on, in every archive that is open, is kept as a whole by CommitTrans or
+    /// undone as a whole by Rollback. Throws Guasto 3218 where another station is writing.
     void BeginTrans();
     void CommitTrans();
     void Rollback();

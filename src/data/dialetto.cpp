@@ -1,10 +1,10 @@
 #include "data/dialetto.h"
 
-#include <algorithm>
-#include <initializer_list>
-
 #include "data/lessico.h"
 #include "platform/conversioni.h"
+
+#include <algorithm>
+#include <initializer_list>
 
 namespace lumigrafo {
 
@@ -87,7 +87,8 @@ void scriviVeroEFalso(Lavoro& l) {
     }
 }
 
-/// Only where values are compared or sorted: a result column or the target of an assignment keeps its bare name.
+/// Only where values are compared or sorted: a result column or the target of an assignment keeps its bare
+/// name.
 void confrontaSenzaMaiuscole(Lavoro& l, const std::set<std::string>& colonne, bool dentroCondizione) {
     for (std::size_t i = 0; i < l.leggi.quanti() && !colonne.empty(); ++i) {
         if (l.leggi.e(i, "WHERE") || l.leggi.e(i, "BY") || l.leggi.e(i, "HAVING") || l.leggi.e(i, "ON"))
@@ -150,7 +151,8 @@ std::size_t leggiVoci(const Lettore& leggi, std::vector<std::string>& colonne) {
 }
 
 bool dopoFrom(const Lettore& leggi, std::size_t i) {
-    return i >= leggi.quanti() || leggi.e(i, "WHERE") || leggi.e(i, "ORDER") || leggi.e(i, "LIMIT") || leggi.e(i, ";");
+    return i >= leggi.quanti() || leggi.e(i, "WHERE") || leggi.e(i, "ORDER") || leggi.e(i, "LIMIT") ||
+           leggi.e(i, ";");
 }
 
 /// The place behind the one table of FROM and its other name, or 0 where there is more than one table.
@@ -192,8 +194,8 @@ std::string Dialetto::sorgente(std::string_view tabellaOSql) const {
 std::optional<Selezione> selezioneSemplice(std::string_view sql) {
     const auto pezzi = lessico::spezza(sql);
     const Lettore leggi(pezzi);
-    if (!leggi.e(0, "SELECT") || contiene(leggi, {"DISTINCT", "DISTINCTROW", "TOP", "ALL", "GROUP", "HAVING", "UNION",
-                                                  "EXCEPT", "INTERSECT"}))
+    if (!leggi.e(0, "SELECT") || contiene(leggi, {"DISTINCT", "DISTINCTROW", "TOP", "ALL", "GROUP", "HAVING",
+                                                  "UNION", "EXCEPT", "INTERSECT"}))
         return std::nullopt;
     Selezione s;
     const std::size_t from = leggiVoci(leggi, s.colonne);

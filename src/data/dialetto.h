@@ -19,9 +19,9 @@ struct Selezione {
 
 /// The archive's SQL as the program spells it, put right for SQLite. Literals and all else stay as they are.
 ///
-/// `Delete * from`, `Delete T.* from`, `UPDATE T SET T.c =` lose what SQLite doesn't take; `True` and `False` become
-/// -1 and 0, the values of Yes/No columns. Texts compare and sort without regard to case: the columns of our own
-/// archives are declared so, and the columns of other archives that aren't are told to this class.
+/// `Delete * from`, `Delete T.* from`, `UPDATE T SET T.c =` lose what SQLite doesn't take; `True` and `False`
+/// become -1 and 0, the values of Yes/No columns. Texts compare and sort without regard to case: the columns
+/// of our own archives are declared so, and the columns of other archives that aren't are told to this class.
 class Dialetto {
 public:
     /// `conMaiuscole`: lower-case names of the text columns whose own comparison minds the case.
@@ -38,7 +38,8 @@ private:
     std::set<std::string> conMaiuscole_;
 };
 
-/// The parts of a translated statement whose rows can be changed; nothing for sums, joins, unions and the like.
+/// The parts of a translated statement whose rows can be changed; nothing for sums, joins, unions and the
+/// like.
 [[nodiscard]] std::optional<Selezione> selezioneSemplice(std::string_view sql);
 
 } // namespace lumigrafo

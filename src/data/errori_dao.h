@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string_view>
-
 #include "platform/guasto.h"
+
+#include <string_view>
 
 struct sqlite3;
 
@@ -66,8 +66,8 @@ inline constexpr int kConversione = 3421;
 
 } // namespace dao
 
-/// The failure with that number and its description in Italian; `nome` (a file, a table, a field, a query) fills the
-/// description's gap where it has one.
+/// The failure with that number and its description in Italian; `nome` (a file, a table, a field, a query)
+/// fills the description's gap where it has one.
 [[nodiscard]] Guasto erroreDao(int numero, std::string_view nome = {});
 
 /// What was going on when SQLite failed: the same result code has another number for a reader and a writer.

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <string>
 
-/// Every statement that the program runs on the archive, in the one spelling that all its users share. Values are put
-/// in as they are: the only texts are cash-desk letters. `data` is a business date as yyyymmdd, `minuti` minutes since
-/// midnight, `servito` -1 or 0.
+/// Every statement that the program runs on the archive, in the one spelling that all its users share. Values
+/// are put in as they are: the only texts are cash-desk letters. `data` is a business date as yyyymmdd,
+/// `minuti` minutes since midnight, `servito` -1 or 0.
 namespace lumigrafo::istruzioni {
 
 /// Record set: the queue.
@@ -46,7 +46,8 @@ inline constexpr const char* kCategorie = "Select * from Categorie Order by Codi
                                                     const std::string& numero) {
     return "UPDATE DettaglioLumigrafo SET DettaglioLumigrafo.SERVITO = " + std::to_string(servito) +
            ", DettaglioLumigrafo.MinutiServito = " + std::to_string(minuti) +
-           " WHERE (((DettaglioLumigrafo.Sigla)='" + sigla + "') AND ((DettaglioLumigrafo.Numero)=" + numero + "));";
+           " WHERE (((DettaglioLumigrafo.Sigla)='" + sigla + "') AND ((DettaglioLumigrafo.Numero)=" + numero +
+           "));";
 }
 
 /// Execute: the receipt lines of an order.
@@ -70,9 +71,11 @@ inline constexpr const char* kCategorie = "Select * from Categorie Order by Codi
 }
 
 /// Record set: the receipts of an order, the newest first.
-[[nodiscard]] inline std::string scontrini(const std::string& sigla, const std::string& numero, std::int32_t data) {
+[[nodiscard]] inline std::string scontrini(const std::string& sigla, const std::string& numero,
+                                           std::int32_t data) {
     return "Select ID_Scontrino, Servito, Stornato from ScontriniEmessi Where Numero = " + numero +
-           " and Sigla = '" + sigla + "' and DataCompetenza = " + std::to_string(data) + " Order by ID_Scontrino DESC";
+           " and Sigla = '" + sigla + "' and DataCompetenza = " + std::to_string(data) +
+           " Order by ID_Scontrino DESC";
 }
 
 /// Execute: empties the queue.
@@ -80,8 +83,10 @@ inline constexpr const char* kTogliTutti = "Delete * from Lumigrafo";
 
 /// Execute: puts a number without a letter into the queue, open in the categories 1 to 8.
 [[nodiscard]] inline std::string inserisciNumero(const std::string& numero) {
-    return "Insert into lumigrafo (sigla, numero, categoria1, categoria2, categoria3, categoria4, categoria5, "
-           "categoria6, categoria7, categoria8) values ('',"+ numero + ",-1,-1,-1,-1,-1,-1,-1,-1);";
+    return "Insert into lumigrafo (sigla, numero, categoria1, categoria2, categoria3, categoria4, "
+           "categoria5, "
+           "categoria6, categoria7, categoria8) values (''," +
+           numero + ",-1,-1,-1,-1,-1,-1,-1,-1);";
 }
 
 } // namespace lumigrafo::istruzioni

@@ -1,8 +1,8 @@
 #include "data/lessico.h"
 
-#include <algorithm>
-
 #include "platform/conversioni.h"
+
+#include <algorithm>
 
 namespace lumigrafo::lessico {
 
@@ -87,7 +87,8 @@ const Pezzo& Lettore::operator[](std::size_t i) const {
 
 bool Lettore::e(std::size_t i, std::string_view parola) const {
     const Pezzo& p = (*this)[i];
-    return (p.genere == Genere::Parola || p.genere == Genere::Simbolo) && ugualeSenzaMaiuscole(p.testo, parola);
+    return (p.genere == Genere::Parola || p.genere == Genere::Simbolo) &&
+           ugualeSenzaMaiuscole(p.testo, parola);
 }
 
 bool Lettore::nome(std::size_t i) const {
@@ -96,7 +97,8 @@ bool Lettore::nome(std::size_t i) const {
 }
 
 std::string nudo(std::string_view nome) {
-    const bool chiuso = nome.size() >= 2 && (nome.front() == '[' || nome.front() == '`' || nome.front() == '"');
+    const bool chiuso =
+        nome.size() >= 2 && (nome.front() == '[' || nome.front() == '`' || nome.front() == '"');
     return std::string(chiuso ? nome.substr(1, nome.size() - 2) : nome);
 }
 

@@ -9,9 +9,9 @@
 namespace lumigrafo::lessico {
 
 enum class Genere {
-    Parola,  ///< a keyword or a bare name
-    Nome,    ///< a name in brackets or back quotes
-    Testo,   ///< a literal in single or double quotes; also an unfinished one
+    Parola, ///< a keyword or a bare name
+    Nome,   ///< a name in brackets or back quotes
+    Testo,  ///< a literal in single or double quotes; also an unfinished one
     Numero,
     Simbolo, ///< an operator or a mark
     Vuoto,   ///< blanks and line ends

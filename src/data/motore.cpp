@@ -1,11 +1,11 @@
 #include "data/motore.h"
 
+#include "data/errori_dao.h"
+#include "data/motore_sqlite.h"
+
 #include <array>
 #include <sqlite3.h>
 #include <string_view>
-
-#include "data/errori_dao.h"
-#include "data/motore_sqlite.h"
 
 namespace lumigrafo {
 
@@ -22,15 +22,16 @@ struct Chiudi {
     void operator()(sqlite3* db) const { sqlite3_close_v2(db); }
 };
 
-/// Read through SQLite's own file layer: on some systems closing a file drops every lock that the process holds on
-/// it, and that layer alone knows of another connection's locks.
+/// Read through SQLite's own file layer: on some systems closing a file drops every lock that the process
+/// holds on it, and that layer alone knows of another connection's locks.
 PrimiByte leggiPrimiByte(const std::filesystem::path& file) {
     sqlite3* db = nullptr;
-    const int esito = sqlite3_open_v2(file.string().c_str(), &db,
-                                      SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int esito =
+        sqlite3_open_v2(file.string().c_str(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_NOMUTEX, nullptr);
     const std::unique_ptr<sqlite3, Chiudi> chiude(db);
     sqlite3_file* aperto = nullptr;
-    if (esito != SQLITE_OK || sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &aperto) != SQLITE_OK ||
+    if (esito != SQLITE_OK ||
+        sqlite3_file_control(db, "main", SQLITE_FCNTL_FILE_POINTER, &aperto) != SQLITE_OK ||
         !aperto->pMethods)
         throw erroreDao(dao::kPermesso, file.string());
     PrimiByte byte{}; // a shorter file leaves zeros
@@ -47,7 +48,8 @@ std::unique_ptr<Motore> apriMotore(const std::filesystem::path& file, std::chron
     if (!std::filesystem::exists(file, ec)) {
         const auto cartella = file.parent_path();
         const bool senzaCartella = !cartella.empty() && !std::filesystem::is_directory(cartella, ec);
-        throw senzaCartella ? erroreDao(dao::kPercorso, cartella.string()) : erroreDao(dao::kFileMancante, file.string());
+        throw senzaCartella ? erroreDao(dao::kPercorso, cartella.string())
+                            : erroreDao(dao::kFileMancante, file.string());
     }
     const PrimiByte byte = leggiPrimiByte(file);
     const std::string_view inizio(byte.data(), byte.size());
@@ -55,7 +57,8 @@ std::unique_ptr<Motore> apriMotore(const std::filesystem::path& file, std::chron
         return std::make_unique<MotoreSqlite>(file, attesa);
     Guasto formato = erroreDao(dao::kFormato, file.string());
     if (inizio.starts_with(kAccess))
-        throw Guasto(dao::kFormato, formato.descrizione() + " Questa versione non legge gli archivi di Access.");
+        throw Guasto(dao::kFormato,
+                     formato.descrizione() + " Questa versione non legge gli archivi di Access.");
     throw formato;
 }
 

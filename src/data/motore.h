@@ -10,8 +10,8 @@ struct sqlite3;
 
 namespace lumigrafo {
 
-/// An archive file behind its SQL. All statements run on the SQLite connection that the engine gives; what differs
-/// from file to file is how a state of the archive is held while it is read, and how a row is locked.
+/// An archive file behind its SQL. All statements run on the SQLite connection that the engine gives; what
+/// differs from file to file is how a state of the archive is held while it is read, and how a row is locked.
 class Motore {
 public:
     virtual ~Motore() = default;
@@ -21,23 +21,26 @@ public:
     /// The file can't be written by this process.
     [[nodiscard]] virtual bool solaLettura() const = 0;
 
-    /// Holds one state of the archive for the statements up to `fineLettura`. Returns its version: a number that
-    /// changes when another station changes the archive. Throws Guasto 3187 where the archive stays locked.
+    /// Holds one state of the archive for the statements up to `fineLettura`. Returns its version: a number
+    /// that changes when another station changes the archive. Throws Guasto 3187 where the archive stays
+    /// locked.
     virtual std::int64_t iniziaLettura() = 0;
     virtual void fineLettura() noexcept = 0;
 
     /// Locks a row against all other stations; waits a bounded time, then throws Guasto 3218. What is written
     /// until `sblocca` is one transaction. Locks nest: the transaction ends with the outermost.
     virtual void blocca(const std::string& tabella, std::int64_t riga) = 0;
-    /// Gives a lock back. The last one commits; where that fails the whole transaction is undone and Guasto thrown.
+    /// Gives a lock back. The last one commits; where that fails the whole transaction is undone and Guasto
+    /// thrown.
     virtual void sblocca() = 0;
     /// Undoes the transaction and gives every lock back.
     virtual void annulla() noexcept = 0;
 };
 
-/// Opens an archive with the engine that its first bytes call for, whatever its name. `attesa`: the longest wait for
-/// a lock of another station. Throws Guasto 3024 (no such file), 3044 (no such folder), 3051 (not to be opened), 3343
-/// (no archive, or one that no engine reads), 3045 (in use exclusively).
-[[nodiscard]] std::unique_ptr<Motore> apriMotore(const std::filesystem::path& file, std::chrono::milliseconds attesa);
+/// Opens an archive with the engine that its first bytes call for, whatever its name. `attesa`: the longest
+/// wait for a lock of another station. Throws Guasto 3024 (no such file), 3044 (no such folder), 3051 (not to
+/// be opened), 3343 (no archive, or one that no engine reads), 3045 (in use exclusively).
+[[nodiscard]] std::unique_ptr<Motore> apriMotore(const std::filesystem::path& file,
+                                                 std::chrono::milliseconds attesa);
 
 } // namespace lumigrafo

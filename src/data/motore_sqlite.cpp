@@ -1,8 +1,8 @@
 #include "data/motore_sqlite.h"
 
-#include <sqlite3.h>
-
 #include "data/errori_dao.h"
+
+#include <sqlite3.h>
 
 namespace lumigrafo {
 
@@ -14,8 +14,8 @@ MotoreSqlite::MotoreSqlite(const std::filesystem::path& file, std::chrono::milli
             throw erroreDao(dao::kPermesso, file.string());
         sqlite3_extended_result_codes(db_, 1);
         sqlite3_busy_timeout(db_, static_cast<int>(attesa.count()));
-        // An empty journal instead of a deleted one spares the folder's update at each commit. Stations with another
-        // kind of rollback journal may work on the same file.
+        // An empty journal instead of a deleted one spares the folder's update at each commit. Stations with
+        // another kind of rollback journal may work on the same file.
         esegui("PRAGMA journal_mode=TRUNCATE");
         esegui("PRAGMA synchronous=FULL");
         esegui("SELECT count(*) FROM sqlite_master"); // a damaged or locked file shows itself here

@@ -6,8 +6,9 @@ struct sqlite3_stmt;
 
 namespace lumigrafo {
 
-/// The embedded archive: one SQLite file, shared by several processes through a rollback journal. Its smallest lock
-/// is the whole file: a row that is locked keeps every other station from writing, and none from reading.
+/// The embedded archive: one SQLite file, shared by several processes through a rollback journal. Its
+/// smallest lock is the whole file: a row that is locked keeps every other station from writing, and none
+/// from reading.
 class MotoreSqlite : public Motore {
 public:
     MotoreSqlite(const std::filesystem::path& file, std::chrono::milliseconds attesa);

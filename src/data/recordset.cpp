@@ -1,10 +1,10 @@
 #include "data/recordset.h"
 
-#include <sqlite3.h>
-#include <utility>
-
 #include "data/errori_dao.h"
 #include "data/lessico.h"
+
+#include <sqlite3.h>
+#include <utility>
 
 namespace lumigrafo {
 
@@ -26,23 +26,22 @@ std::string conChiave(const Selezione& s) {
     return "SELECT " + s.voci + ", _rowid_ " + s.da;
 }
 
+/// The rows of a view have none.
+bool haChiave(sqlite3* db, const std::string& tabella) {
+    return sqlite3_table_column_metadata(db, nullptr, tabella.c_str(), "_rowid_", nullptr, nullptr, nullptr,
+                                         nullptr, nullptr) == SQLITE_OK;
+}
+
 } // namespace
 
 Recordset::Recordset(std::shared_ptr<Sessione> sessione, const std::string& sorgente)
     : sessione_(std::move(sessione)) {
     const std::string sql = sessione_->dialetto().sorgente(sorgente);
-    sql_ = sql;
-    if ((selezione_ = selezioneSemplice(sql)))
-        sql_ = conChiave(*selezione_) + selezione_->resto;
-    try {
-        carica();
-    } catch (const Guasto& guasto) {
-        if (!selezione_ || guasto.numero() != dao::kParametri)
-            throw;
-        selezione_.reset(); // a view's rows have no key
-        sql_ = sql;
-        carica();
-    }
+    selezione_ = selezioneSemplice(sql);
+    if (selezione_ && !haChiave(sessione_->motore().connessione(), selezione_->tabella))
+        selezione_.reset();
+    sql_ = selezione_ ? conChiave(*selezione_) + selezione_->resto : sql;
+    carica();
     sessione_->iscrivi(*this);
 }
 
@@ -166,10 +165,11 @@ std::optional<std::size_t> Recordset::cercaPosizione(const std::string& criterio
     if (selezione_)
         return righe_.prima(chiaviDi(criterio));
     // Rows without a key are found by their place in the same order.
-    Istruzione trova = sessione_->prepara("SELECT posto_ FROM (SELECT row_number() OVER () - 1 AS posto_, * FROM (" +
-                                              sql_.substr(0, sql_.find_last_not_of("; \r\n") + 1) + ")) WHERE (" +
-                                              criterio + ") ORDER BY 1 LIMIT 1",
-                                          Operazione::Criterio);
+    Istruzione trova =
+        sessione_->prepara("SELECT posto_ FROM (SELECT row_number() OVER () - 1 AS posto_, * FROM (" +
+                               sql_.substr(0, sql_.find_last_not_of("; \r\n") + 1) + ")) WHERE (" + criterio +
+                               ") ORDER BY 1 LIMIT 1",
+                           Operazione::Criterio);
     if (!trova.passo())
         return std::nullopt;
     const auto posto = static_cast<std::size_t>(sqlite3_column_int64(trova.stmt(), 0));

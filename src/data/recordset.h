@@ -1,22 +1,24 @@
 #pragma once
 
+#include "data/campo.h"
+#include "data/dialetto.h"
+#include "data/righe.h"
+#include "data/sessione.h"
+
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "data/campo.h"
-#include "data/dialetto.h"
-#include "data/righe.h"
-#include "data/sessione.h"
-
 namespace lumigrafo {
 
-/// A dynaset: the rows of a table or statement as they were when it was opened or last asked anew. A row's values are
-/// read again by FindFirst, Edit and Update. Rows of one table can be changed; sums and the like can only be read.
+/// A dynaset: the rows of a table or statement as they were when it was opened or last asked anew. A row's
+/// values are read again by FindFirst, Edit and Update. Rows of one table can be changed; sums and the like
+/// can only be read.
 ///
-/// Every operation throws Guasto: 3420 after Close of this set or of its Database, 3021 without a current row.
+/// Every operation throws Guasto: 3420 after Close of this set or of its Database, 3021 without a current
+/// row.
 class Recordset {
 public:
     /// A table's name or an SQL text. Stands on the first row.
@@ -29,32 +31,36 @@ public:
     void MoveLast();
     /// Behind the last row Eof is true. Throws Guasto 3021 if it was already.
     void MoveNext();
-    /// Reads the rows anew if the archive has changed, gives up an Edit or AddNew, and stands on the first row.
+    /// Reads the rows anew if the archive has changed, gives up an Edit or AddNew, and stands on the first
+    /// row.
     void Requery();
-    /// Stands on the first row that meets the condition, with the row's present values. Without one, NoMatch is
-    /// true and the current row stays. Throws Guasto 3077 for a faulty condition, 3070 for an unknown column.
+    /// Stands on the first row that meets the condition, with the row's present values. Without one, NoMatch
+    /// is true and the current row stays. Throws Guasto 3077 for a faulty condition, 3070 for an unknown
+    /// column.
     void FindFirst(const std::string& criterio);
     [[nodiscard]] bool NoMatch() const { return noMatch_; }
     [[nodiscard]] std::int32_t RecordCount() const;
     [[nodiscard]] bool Eof() const;
 
-    /// True, as it begins: Edit locks the row until Update. False: Update fails with 3197 if another station has
-    /// changed the row since Edit.
+    /// True, as it begins: Edit locks the row until Update. False: Update fails with 3197 if another station
+    /// has changed the row since Edit.
     [[nodiscard]] bool LockEdits() const { return bloccaSubito_; }
     void LockEdits(bool subito) { bloccaSubito_ = subito; }
 
-    /// Makes the current row, read afresh, ready for changes. Throws Guasto 3167 if another station has deleted it,
-    /// 3218 if it stays locked, 3188 if another set of this program is changing it, 3027 if it can't be changed.
+    /// Makes the current row, read afresh, ready for changes. Throws Guasto 3167 if another station has
+    /// deleted it, 3218 if it stays locked, 3188 if another set of this program is changing it, 3027 if it
+    /// can't be changed.
     void Edit();
     /// Begins a new row; columns that aren't set take the table's defaults. The current row stays current.
     void AddNew();
-    /// Writes what was set, and nothing else of the row. Throws Guasto 3020 outside Edit and AddNew, 3022 for a
-    /// duplicate key, 3186 or 3218 for a lock. A refused value leaves the Edit open; a failed commit ends it.
+    /// Writes what was set, and nothing else of the row. Throws Guasto 3020 outside Edit and AddNew, 3022 for
+    /// a duplicate key, 3186 or 3218 for a lock. A refused value leaves the Edit open; a failed commit ends
+    /// it.
     void Update();
     /// Outside Edit and AddNew it does nothing.
     void CancelUpdate();
-    /// Deletes the current row, which stays current as a deleted one until the next move. Throws Guasto 3167 if it
-    /// is already gone.
+    /// Deletes the current row, which stays current as a deleted one until the next move. Throws Guasto 3167
+    /// if it is already gone.
     void Delete();
     /// Gives up an Edit or AddNew. A closed set can be closed again.
     void Close() noexcept;

@@ -1,11 +1,11 @@
 // The half of Recordset that changes rows.
-#include <sqlite3.h>
-#include <string_view>
-#include <utility>
-
 #include "data/errori_dao.h"
 #include "data/lessico.h"
 #include "data/recordset.h"
+
+#include <sqlite3.h>
+#include <string_view>
+#include <utility>
 
 namespace lumigrafo {
 
@@ -101,9 +101,10 @@ void Recordset::scriviModifica() {
         accoda(insieme, traVirgolette(campi_.Item(i).colonna()) + "=?" + std::to_string(valori.size()));
     }
     if (!valori.empty()) {
-        Istruzione scrive = sessione_->prepara("UPDATE " + traVirgolette(selezione_->tabella) + " SET " + insieme +
-                                                   " WHERE _rowid_=?" + std::to_string(valori.size() + 1),
-                                               Operazione::Aggiornamento);
+        Istruzione scrive =
+            sessione_->prepara("UPDATE " + traVirgolette(selezione_->tabella) + " SET " + insieme +
+                                   " WHERE _rowid_=?" + std::to_string(valori.size() + 1),
+                               Operazione::Aggiornamento);
         for (std::size_t i = 0; i < valori.size(); ++i)
             scrive.lega(static_cast<int>(i) + 1, *valori[i]);
         scrive.lega(static_cast<int>(valori.size()) + 1, righe_.chiave(inModifica_));
@@ -128,9 +129,10 @@ void Recordset::scriviNuovo() {
         accoda(colonne, traVirgolette(campi_.Item(i).colonna()));
         accoda(parametri, "?");
     }
-    const std::string dati = valori.empty() ? " DEFAULT VALUES" : "(" + colonne + ") VALUES(" + parametri + ")";
-    Istruzione scrive =
-        sessione_->prepara("INSERT INTO " + traVirgolette(selezione_->tabella) + dati, Operazione::Inserimento);
+    const std::string dati =
+        valori.empty() ? " DEFAULT VALUES" : "(" + colonne + ") VALUES(" + parametri + ")";
+    Istruzione scrive = sessione_->prepara("INSERT INTO " + traVirgolette(selezione_->tabella) + dati,
+                                           Operazione::Inserimento);
     for (std::size_t i = 0; i < valori.size(); ++i)
         scrive.lega(static_cast<int>(i) + 1, *valori[i]);
     scrive.passo();
@@ -172,8 +174,9 @@ void Recordset::Delete() {
     const std::int64_t chiave = righe_.chiave(riga);
     bloccaERileggi(riga);
     try {
-        Istruzione toglie = sessione_->prepara(
-            "DELETE FROM " + traVirgolette(selezione_->tabella) + " WHERE _rowid_=?1", Operazione::Aggiornamento);
+        Istruzione toglie =
+            sessione_->prepara("DELETE FROM " + traVirgolette(selezione_->tabella) + " WHERE _rowid_=?1",
+                               Operazione::Aggiornamento);
         toglie.lega(1, chiave);
         toglie.passo();
         sessione_->modificato();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/valore.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -7,18 +9,17 @@
 #include <string_view>
 #include <vector>
 
-#include "data/valore.h"
-
 struct sqlite3_stmt;
 struct sqlite3_value;
 
 namespace lumigrafo {
 
-/// The rows of a record set as they were read, in one block of memory, each with its key in the table. A deleted row
-/// keeps its place.
+/// The rows of a record set as they were read, in one block of memory, each with its key in the table. A
+/// deleted row keeps its place.
 class Righe {
 public:
-    /// Empty, with the memory kept. `colonne`: values in a row. `conChiave`: the statements read give the row's key behind them.
+    /// Empty, with the memory kept. `colonne`: values in a row. `conChiave`: the statements read give the
+    /// row's key behind them.
     void azzera(std::size_t colonne, bool conChiave);
     /// Appends the row that the statement stands on.
     void accoda(sqlite3_stmt* stmt);

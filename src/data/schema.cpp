@@ -1,11 +1,11 @@
 #include "data/schema.h"
 
+#include "data/errori_dao.h"
+
 #include <cstdio>
 #include <memory>
 #include <sqlite3.h>
 #include <string>
-
-#include "data/errori_dao.h"
 
 namespace lumigrafo {
 

@@ -1,12 +1,12 @@
 #include "data/sessione.h"
 
-#include <algorithm>
-#include <set>
-#include <sqlite3.h>
-
 #include "data/lessico.h"
 #include "data/recordset.h"
 #include "platform/conversioni.h"
+
+#include <algorithm>
+#include <set>
+#include <sqlite3.h>
 
 namespace lumigrafo {
 
@@ -24,7 +24,8 @@ bool diTesto(const char* tipo) {
 std::set<std::string> colonneConMaiuscole(sqlite3* db) {
     std::set<std::string> nomi;
     sqlite3_stmt* elenco = nullptr;
-    const char* sql = "SELECT m.name, c.name FROM sqlite_master m, pragma_table_info(m.name) c WHERE m.type = 'table'";
+    const char* sql =
+        "SELECT m.name, c.name FROM sqlite_master m, pragma_table_info(m.name) c WHERE m.type = 'table'";
     if (sqlite3_prepare_v2(db, sql, -1, &elenco, nullptr) != SQLITE_OK)
         throw erroreSqlite(db, Operazione::Apertura);
     const std::shared_ptr<sqlite3_stmt> chiude(elenco, sqlite3_finalize);
@@ -32,8 +33,8 @@ std::set<std::string> colonneConMaiuscole(sqlite3* db) {
         const char *tipo = nullptr, *confronto = nullptr;
         const auto* tabella = reinterpret_cast<const char*>(sqlite3_column_text(elenco, 0));
         const auto* colonna = reinterpret_cast<const char*>(sqlite3_column_text(elenco, 1));
-        const int esito = sqlite3_table_column_metadata(db, "main", tabella, colonna, &tipo, &confronto, nullptr,
-                                                        nullptr, nullptr);
+        const int esito = sqlite3_table_column_metadata(db, "main", tabella, colonna, &tipo, &confronto,
+                                                        nullptr, nullptr, nullptr);
         if (esito == SQLITE_OK && diTesto(tipo) && ugualeSenzaMaiuscole(confronto, "BINARY"))
             nomi.insert(minuscolo(colonna));
     }
@@ -100,20 +101,22 @@ std::shared_ptr<sqlite3_stmt> Sessione::compila(const std::string& sql, Operazio
     sqlite3* db = motore().connessione();
     sqlite3_stmt* stmt = nullptr;
     const char* resto = nullptr;
-    if (sqlite3_prepare_v3(db, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &stmt, &resto) !=
-        SQLITE_OK)
+    if (sqlite3_prepare_v3(db, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &stmt,
+                           &resto) != SQLITE_OK)
         throw erroreSqlite(db, operazione, sql);
     std::shared_ptr<sqlite3_stmt> pronta(stmt, sqlite3_finalize);
     if (!pronta) // blanks alone
         throw erroreDao(dao::kSintassiQuery, sql);
-    const auto coda = lessico::spezza(std::string_view(resto, static_cast<std::size_t>(sql.data() + sql.size() - resto)));
+    const auto coda =
+        lessico::spezza(std::string_view(resto, static_cast<std::size_t>(sql.data() + sql.size() - resto)));
     if (lessico::Lettore(coda).quanti() > 0)
         throw erroreDao(dao::kDopoLaFine);
     return pronta;
 }
 
 Istruzione Sessione::prepara(const std::string& sql, Operazione operazione) {
-    const auto nota = std::find_if(pronte_.begin(), pronte_.end(), [&](const Pronta& p) { return p.first == sql; });
+    const auto nota =
+        std::find_if(pronte_.begin(), pronte_.end(), [&](const Pronta& p) { return p.first == sql; });
     if (nota != pronte_.end()) {
         std::rotate(pronte_.begin(), nota, nota + 1);
     } else {
@@ -130,7 +133,8 @@ std::int32_t Sessione::esegui(std::string_view sql) {
     const std::string tradotta = dialetto_.istruzione(sql);
     const auto pezzi = lessico::spezza(tradotta);
     const bool inserimento = lessico::Lettore(pezzi).e(0, "INSERT");
-    Istruzione istruzione = prepara(tradotta, inserimento ? Operazione::Inserimento : Operazione::Aggiornamento);
+    Istruzione istruzione =
+        prepara(tradotta, inserimento ? Operazione::Inserimento : Operazione::Aggiornamento);
     if (sqlite3_column_count(istruzione.stmt()) > 0)
         throw erroreDao(dao::kQueryDiSelezione);
     const int prima = sqlite3_total_changes(db);

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "data/dialetto.h"
+#include "data/errori_dao.h"
+#include "data/motore.h"
+#include "data/righe.h"
+#include "data/valore.h"
+
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
@@ -7,12 +13,6 @@
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "data/dialetto.h"
-#include "data/errori_dao.h"
-#include "data/motore.h"
-#include "data/righe.h"
-#include "data/valore.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -24,7 +24,8 @@ class Recordset;
 /// A prepared statement in use; given back, it is reset for the next user.
 class Istruzione {
 public:
-    Istruzione(std::shared_ptr<sqlite3_stmt> stmt, Operazione operazione) : stmt_(std::move(stmt)), op_(operazione) {}
+    Istruzione(std::shared_ptr<sqlite3_stmt> stmt, Operazione operazione)
+        : stmt_(std::move(stmt)), op_(operazione) {}
     ~Istruzione();
     Istruzione(Istruzione&&) = default;
     Istruzione& operator=(Istruzione&&) = delete;
@@ -58,7 +59,8 @@ public:
     [[nodiscard]] Istruzione prepara(const std::string& sql, Operazione operazione);
     /// Runs a statement that changes rows; returns how many.
     std::int32_t esegui(std::string_view sql);
-    /// Changes of this session's own; with the engine's version it tells whether rows read before still stand.
+    /// Changes of this session's own; with the engine's version it tells whether rows read before still
+    /// stand.
     [[nodiscard]] std::int64_t modifiche() const { return modifiche_; }
     void modificato() { ++modifiche_; }
 

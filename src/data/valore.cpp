@@ -1,10 +1,10 @@
 #include "data/valore.h"
 
-#include <charconv>
-#include <limits>
-
 #include "data/errori_dao.h"
 #include "platform/conversioni.h"
+
+#include <charconv>
+#include <limits>
 
 namespace lumigrafo {
 

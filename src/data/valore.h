@@ -9,16 +9,15 @@
 
 namespace lumigrafo {
 
-/// The value of an archive's field: null, a whole number, a number or a text (UTF-8). A truth value is the whole
-/// number -1 or 0. Null converts to nothing: each conversion but aTestoOVuoto throws Guasto 94 on it.
+/// The value of an archive's field: null, a whole number, a number or a text (UTF-8). A truth value is the
+/// whole number -1 or 0. Null converts to nothing: each conversion but aTestoOVuoto throws Guasto 94 on it.
 class Valore {
 public:
     Valore() = default;
     template <std::same_as<bool> T>
     Valore(T vero) : v_(std::int64_t{vero ? -1 : 0}) {}
     template <std::integral T>
-        requires(!std::same_as<T, bool>)
-    Valore(T intero) : v_(static_cast<std::int64_t>(intero)) {}
+    requires(!std::same_as<T, bool>) Valore(T intero) : v_(static_cast<std::int64_t>(intero)) {}
     template <std::floating_point T>
     Valore(T doppio) : v_(static_cast<double>(doppio)) {}
     Valore(std::string testo) : v_(std::move(testo)) {}
@@ -34,7 +33,8 @@ public:
     [[nodiscard]] std::string aTesto() const;
     /// Null gives the empty text: what a value joined to a text gives.
     [[nodiscard]] std::string aTestoOVuoto() const { return nullo() ? std::string() : aTesto(); }
-    /// Rounded to the even neighbour. A text that is no number throws Guasto 13, a value out of range Guasto 6.
+    /// Rounded to the even neighbour. A text that is no number throws Guasto 13, a value out of range
+    /// Guasto 6.
     [[nodiscard]] std::int16_t aIntero16() const;
     [[nodiscard]] std::int32_t aIntero32() const;
     [[nodiscard]] std::int64_t aIntero64() const;

@@ -8,7 +8,8 @@ namespace lumigrafo {
 class LumigrafiAndroid {
 public:
     virtual ~LumigrafiAndroid() = default;
-    /// Pushes the whole state of the board. `last`: the quadrant that changed (0..2), or -1 to reset the boards.
+    /// Pushes the whole state of the board. `last`: the quadrant that changed (0..2), or -1 to reset the
+    /// boards.
     virtual void SincronizzaLumAndroid(std::int16_t last) = 0;
 };
 

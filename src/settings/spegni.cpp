@@ -1,10 +1,10 @@
 #include "settings/spegni.h"
 
-#include <array>
-#include <utility>
-
 #include "forms/verifica.h"
 #include "settings/processo.h"
+
+#include <array>
+#include <utility>
 
 namespace lumigrafo {
 
@@ -32,7 +32,8 @@ const Layout kLayoutSpegni{"frmSpegni", "", 9000, 5100, rgb(38, 50, 70), kContro
 
 } // namespace
 
-Spegni::Spegni(Processi& processi, Alimentazione& alimentazione, Uscita& uscita, std::function<void()> indietro)
+Spegni::Spegni(Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
+               std::function<void()> indietro)
     : controlli_(kLayoutSpegni), processi_(processi), alimentazione_(alimentazione), uscita_(uscita),
       indietro_(std::move(indietro)) {}
 

@@ -26,8 +26,8 @@ Console& Banco::console() {
     dati_ = std::make_unique<DatiDi>(console_);
     servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, pompa, timers, *dati_});
     console_ = std::make_unique<Console>(
-        PorteConsole{ambiente, orologio, pompa, timers, avvisi, messaggi, processi, alimentazione, sistema, uscita,
-                     dialoghi, annunciatore, fiscale, android, server},
+        PorteConsole{ambiente, orologio, pompa, timers, avvisi, messaggi, processi, alimentazione, sistema,
+                     uscita, dialoghi, annunciatore, fiscale, android, server},
         finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board, whatever the type: it has the slots of all three quadrants.
@@ -76,7 +76,8 @@ void Banco::clic(int quadrante, const std::string& testo) {
 Diario Banco::senza(std::initializer_list<std::string_view> inizi) const {
     Diario resto;
     std::copy_if(diario.begin(), diario.end(), std::back_inserter(resto), [&](const std::string& riga) {
-        return std::none_of(inizi.begin(), inizi.end(), [&](auto inizio) { return riga.starts_with(inizio); });
+        return std::none_of(inizi.begin(), inizi.end(),
+                            [&](auto inizio) { return riga.starts_with(inizio); });
     });
     return resto;
 }

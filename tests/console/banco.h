@@ -1,10 +1,5 @@
 #pragma once
 
-#include <filesystem>
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "boards/crea_videata.h"
 #include "console/console.h"
 #include "platform/finti/finti.h"
@@ -13,9 +8,15 @@
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
 namespace lumigrafo::prova {
 
-/// A console without a window on a real archive, with every port faked; what the fakes are told is in `diario`.
+/// A console without a window on a real archive, with every port faked; what the fakes are told is in
+/// `diario`.
 class Banco {
 public:
     Diario diario;

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <utility>
-
 #include "announce/annunciatore.h"
 #include "announce/fiscale.h"
 #include "boards/finestra_videata.h"
@@ -10,6 +7,9 @@
 #include "links/collegamenti.h"
 #include "platform/finti/finti.h"
 #include "settings/dialoghi.h"
+
+#include <string>
+#include <utility>
 
 namespace lumigrafo::prova {
 

@@ -1,10 +1,9 @@
-#include <fstream>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "platform/guasto.h"
 #include "tests/console/banco.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -27,18 +26,19 @@ TEST(Avvio, TheLoadGoesStepByStep) {
     b.archivio.ordine("A", 1, {{1, 1}});
     b.console().carica();
     EXPECT_THAT(b.diario,
-                ElementsAre("istanza", "ScegliVoce", "attendi 400", "cedi CaricaVideataInizio/9", "cedi Form_Load/12",
-                            "cedi Form_Load/16", "splash", "cedi Form_Load/18", "videata caricata",
-                            "cedi Videata/Load", "videata normale", "videata in vista", "cedi cmdLumigrafo/1",
-                            "videata normale", "console in vista", "cedi Form_Load/18 mostrato", "android -1",
-                            "mnuFiscale nascosto"));
+                ElementsAre("istanza", "ScegliVoce", "attendi 400", "cedi CaricaVideataInizio/9",
+                            "cedi Form_Load/12", "cedi Form_Load/16", "splash", "cedi Form_Load/18",
+                            "videata caricata", "cedi Videata/Load", "videata normale", "videata in vista",
+                            "cedi cmdLumigrafo/1", "videata normale", "console in vista",
+                            "cedi Form_Load/18 mostrato", "android -1", "mnuFiscale nascosto"));
     EXPECT_EQ(b.console().controlli()("lblDB").Caption(), percorso(b));
     EXPECT_TRUE(std::filesystem::is_empty(b.cartella.percorso() / "log.vocal.txt"));
     EXPECT_TRUE(b.console().stato().VoceAttiva);
 }
 
 TEST(Avvio, FirstActivationHappensOnceAndTestsTheStoredTruthValue) {
-    for (const auto& [valore, posiziona] : {std::pair("1", false), {"-1", true}, {"0", false}, {"True", true}}) {
+    for (const auto& [valore, posiziona] :
+         {std::pair("1", false), {"-1", true}, {"0", false}, {"True", true}}) {
         Banco b;
         b.imposta("Posiziona", valore);
         b.caricata();
@@ -85,13 +85,13 @@ TEST_P(ArchivioAssente, WarnsOnceAndEndsAfterTheDialog) {
     EXPECT_THROW(b.console().carica(), FineProcesso);
     const Avviso& avviso = b.avvisi.mostrati.at(0);
     const std::string archivio = (std::filesystem::path(GetParam().cartella) / "archivio.mdb").string();
-    EXPECT_EQ(avviso.testo,
-              "Errore di collegamento al database " + archivio + "\r\n\r\n" + GetParam().esito);
+    EXPECT_EQ(avviso.testo, "Errore di collegamento al database " + archivio + "\r\n\r\n" + GetParam().esito);
     EXPECT_EQ(avviso.titolo, "");
     EXPECT_EQ(avviso.icona, Icona::Esclamazione);
     EXPECT_EQ(b.orologio.atteso, 3s);
     const Diario coda(b.diario.end() - 4, b.diario.end());
-    EXPECT_THAT(coda, ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmDatabase", "fine 0"));
+    EXPECT_THAT(coda,
+                ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmDatabase", "fine 0"));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -99,9 +99,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(CasoArchivio{"locale", "/non/esiste", true, ""},
                     CasoArchivio{"risponde", "\\\\192.168.1.10\\dati", true,
                                  "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
-                    CasoArchivio{"tace", "\\\\SERVER\\dati\\x", false,
-                                 "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
-                                 "di rete siano collegati e che i led del switch siano accesi."}),
+                    CasoArchivio{
+                        "tace", "\\\\SERVER\\dati\\x", false,
+                        "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
+                        "di rete siano collegati e che i led del switch siano accesi."}),
     [](const auto& caso) { return caso.param.nome; });
 
 TEST(Avvio, AnArchiveThatComesUpDuringTheWaitIsTaken) {

@@ -1,7 +1,7 @@
+#include "tests/console/banco.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "tests/console/banco.h"
 
 namespace lumigrafo::prova {
 namespace {
@@ -72,16 +72,16 @@ TEST(Bottoni, MenusAskForThePasswordFirst) {
     b.dialoghi.passwordGiusta = false;
     b.console().mnuDatabase();
     b.console().mnuImposta();
-    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe", "termina primopiano.exe",
-                                      "password "));
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe",
+                                      "termina primopiano.exe", "password "));
     EXPECT_TRUE(b.board().caricata());
     b.dialoghi.passwordGiusta = true;
     b.diario.clear();
     b.console().mnuDatabase();
     b.console().mnuImposta();
-    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe", "termina primopiano.exe",
-                                      "frmDatabase", "termina PrimoPiano.exe", "termina primopiano.exe", "password ",
-                                      "videata chiusa", "frmImposta"));
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe",
+                                      "termina primopiano.exe", "frmDatabase", "termina PrimoPiano.exe",
+                                      "termina primopiano.exe", "password ", "videata chiusa", "frmImposta"));
     EXPECT_FALSE(b.board().caricata());
 }
 

@@ -1,8 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "console/scelta_videata.h"
 #include "tests/console/banco.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -38,7 +38,8 @@ TEST(Disposizione, BoardOfEachKindOfStation) {
         stato.TipoLumigrafo = caso.tipo;
         stato.Lumigrafo9Numeri = caso.nove;
         stato.Categoria = {1, caso.categoria1, caso.categoria2, 0};
-        EXPECT_EQ(scegliVideata(stato), caso.attesa) << caso.tipo << " " << caso.nove << " " << caso.categoria1;
+        EXPECT_EQ(scegliVideata(stato), caso.attesa)
+            << caso.tipo << " " << caso.nove << " " << caso.categoria1;
     }
 }
 

@@ -1,9 +1,9 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "console/testi.h"
 #include "platform/guasto.h"
 #include "tests/console/banco.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {

@@ -1,8 +1,8 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "console/codice_scontrino.h"
 #include "tests/console/banco.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -57,8 +57,8 @@ TEST_F(Scansioni, WhatIsNotInTheGridIsCalledAllTheSame) {
     scandisci("5996501001233");
     b.diario.clear();
     scandisci("5996501001233"); // again: a repeat on the board, and green
-    EXPECT_THAT(b.senza({"cedi"}),
-                ElementsAre("videata in vista", "ridisegna", "attendi 700", "ridisegna", "voce Cucina A 123"));
+    EXPECT_THAT(b.senza({"cedi"}), ElementsAre("videata in vista", "ridisegna", "attendi 700", "ridisegna",
+                                               "voce Cucina A 123"));
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_1"), "");
     scandisci("5996601000015"); // never sold
     EXPECT_EQ(b.posti(0)[2], "B 1");
@@ -117,8 +117,9 @@ TEST_F(Scansioni, TheCategoryChoosesTheQuadrant) {
 TEST_F(Scansioni, ANumberWhoseDigitsAreNoneGoesOnEmpty) {
     b.caricata();
     scandisci("5996501E00123"); // the whole is a number, with an exponent; its digits 8 to 12 aren't
-    EXPECT_THAT(b.senza({"cedi", "ridisegna"}), ElementsAre("attendi 2000", "videata in vista", "android 0",
-                                                            "console in vista", "attendi 700", "voce Cucina A "));
+    EXPECT_THAT(b.senza({"cedi", "ridisegna"}),
+                ElementsAre("attendi 2000", "videata in vista", "android 0", "console in vista",
+                            "attendi 700", "voce Cucina A "));
     EXPECT_EQ(b.posti(0)[2], "A");
 }
 

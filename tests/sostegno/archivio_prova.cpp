@@ -1,10 +1,9 @@
 #include "tests/sostegno/archivio_prova.h"
 
-#include <stdexcept>
+#include "data/schema.h"
 
 #include <sqlite3.h>
-
-#include "data/schema.h"
+#include <stdexcept>
 
 namespace lumigrafo::prova {
 
@@ -43,12 +42,12 @@ void ArchivioProva::ordine(const std::optional<std::string>& sigla, int numero,
         const std::string riga = "VALUES (" + chiave + ", ";
         esegui("INSERT INTO DettaglioLumigrafo (Sigla, Numero, CATEGORIA, SERVITO, MinutiServito) " + riga +
                std::to_string(codice) + ", 0, 0)");
-        esegui("INSERT INTO Dettaglio (Sigla, Numero, DataCompetenza, SERVITO, MinutiServito) " + riga + kData +
-               ", 0, 0)");
+        esegui("INSERT INTO Dettaglio (Sigla, Numero, DataCompetenza, SERVITO, MinutiServito) " + riga +
+               kData + ", 0, 0)");
     }
     esegui("INSERT INTO Lumigrafo (" + colonne + ") VALUES (" + valori + ")");
-    esegui("INSERT INTO ScontriniEmessi (Sigla, Numero, DataCompetenza, Servito, Stornato) VALUES (" + chiave + ", " +
-           kData + ", 0, 0)");
+    esegui("INSERT INTO ScontriniEmessi (Sigla, Numero, DataCompetenza, Servito, Stornato) VALUES (" +
+           chiave + ", " + kData + ", 0, 0)");
     esegui("COMMIT");
 }
 

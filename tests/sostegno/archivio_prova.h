@@ -19,8 +19,8 @@ public:
     ArchivioProva(const ArchivioProva&) = delete;
     ArchivioProva& operator=(const ArchivioProva&) = delete;
 
-    /// Adds an order to the queue with its detail lines and its receipt of 15 March 2026: categories and pieces. No
-    /// letter: null.
+    /// Adds an order to the queue with its detail lines and its receipt of 15 March 2026: categories and
+    /// pieces. No letter: null.
     void ordine(const std::optional<std::string>& sigla, int numero,
                 const std::vector<std::pair<int, int>>& categorie, bool evidenzia = false);
     void esegui(const std::string& sql);

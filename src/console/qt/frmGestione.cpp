@@ -1,11 +1,12 @@
 #include "console/qt/frmGestione.h"
 
+#include "forms/qt/griglia_widget.h"
+
 #include <QAction>
+#include <QCoreApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenuBar>
-
-#include "forms/qt/griglia_widget.h"
 
 namespace lumigrafo {
 
@@ -58,8 +59,8 @@ void frmGestione::collega(Console& console) {
 bool frmGestione::tasto(const QKeyEvent& evento) {
     const QString testo = evento.text();
     const char32_t carattere = testo.isEmpty() ? U'\0' : static_cast<char32_t>(testo.toUcs4().constFirst());
-    // Keys without a character (Shift among them) are no key presses to the console: a scanner sends Shift before
-    // each capital.
+    // Keys without a character (Shift among them) are no key presses to the console: a scanner sends Shift
+    // before each capital.
     return carattere != U'\0' && console_->tasto(carattere);
 }
 
@@ -78,7 +79,8 @@ void frmGestione::InPrimoPiano() {
 }
 
 void frmGestione::Ridisegna() {
-    contenuto_->repaint();
+    // Paints what is due, and no more: a plain repaint would leave out what an opaque child covers.
+    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
 
 void frmGestione::mnuFiscaleVisibile(bool visibile) {

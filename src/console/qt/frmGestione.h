@@ -1,19 +1,19 @@
 #pragma once
 
-#include <functional>
-#include <memory>
+#include "console/console.h"
+#include "forms/qt/finestra.h"
 
 #include <QMainWindow>
 
-#include "console/console.h"
-#include "forms/qt/finestra.h"
+#include <functional>
+#include <memory>
 
 class QAction;
 
 namespace lumigrafo {
 
-/// The operator's console as a window: it lays the controls out, hands its events to the logic and shows what the logic
-/// changes.
+/// The operator's console as a window: it lays the controls out, hands its events to the logic and shows what
+/// the logic changes.
 class frmGestione : public QMainWindow, public FinestraConsole {
 public:
     frmGestione();

@@ -132,6 +132,7 @@ void Finestra::cambiato(const Controllo& c, Aspetto aspetto) {
         break;
     case Aspetto::Visibilita:
         w.setVisible(c.Visible());
+        w.update(); // a show alone leaves the painting to a later turn of the loop
         break;
     case Aspetto::Abilitazione:
         w.setEnabled(c.Enabled());

@@ -72,6 +72,8 @@ bool MotoreVoce::crea() {
         motore_.release()->deleteLater(); // its own signal may be on its way to us
     }
     motore_ = std::make_unique<QTextToSpeech>();
+    velocita_.reset();
+    volume_.reset();
     if (motore_->state() == QTextToSpeech::Error) {
         if (assente_)
             std::exchange(assente_, nullptr)();
@@ -123,12 +125,20 @@ bool MotoreVoce::accetta(const TestoVoce& testo) {
     if (motore_->state() == QTextToSpeech::Error)
         return false;
     fase_ = Fase::Consegna;
-    motore_->setRate(velocitaDelMotore(testo.Rate));
-    motore_->setVolume(volumeDelMotore(testo.Volume));
+    imposta(velocitaDelMotore(testo.Rate), volumeDelMotore(testo.Volume));
     motore_->say(testo.testo);
     if (fase_ == Fase::Consegna)
         fase_ = Fase::Attesa;
     return motore_->state() != QTextToSpeech::Error;
+}
+
+void MotoreVoce::imposta(double velocita, double volume) {
+    // Only what changes: where the speech service died meanwhile, a text is refused in good order, but the
+    // client library of speech-dispatcher crashes on any other command.
+    if (std::exchange(velocita_, velocita) != velocita)
+        motore_->setRate(velocita);
+    if (std::exchange(volume_, volume) != volume)
+        motore_->setVolume(volume);
 }
 
 void MotoreVoce::statoCambiato(QTextToSpeech::State stato) {

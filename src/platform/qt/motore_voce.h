@@ -46,6 +46,7 @@ private:
     void scegliVoce();
     void consegna();
     bool accetta(const TestoVoce& testo);
+    void imposta(double velocita, double volume);
     void statoCambiato(QTextToSpeech::State stato);
     void taglia();
     void concludi();
@@ -54,6 +55,7 @@ private:
     std::function<void()> assente_;
     Voce::Scelta scelta_;
     std::unique_ptr<QTextToSpeech> motore_;
+    std::optional<double> velocita_, volume_; ///< as the engine was told last
     Fase fase_ = Fase::Ferma;
     quint64 inCorso_ = 0;
     std::optional<TestoVoce> seguente_; ///< waits for the one being cut off

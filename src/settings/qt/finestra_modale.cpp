@@ -1,12 +1,12 @@
 #include "settings/qt/finestra_modale.h"
 
-#include <algorithm>
+#include "forms/qt/finestra.h"
 
 #include <QApplication>
 #include <QScreen>
 #include <QWindow>
 
-#include "forms/qt/finestra.h"
+#include <algorithm>
 
 namespace lumigrafo {
 

@@ -6,13 +6,14 @@ namespace lumigrafo {
 
 class Finestra;
 
-/// The time of one modal window: shown in the middle of the operator's monitor, in proportion to it, over the window
-/// that is active now. Nothing else can be clicked meanwhile.
+/// The time of one modal window: shown in the middle of the operator's monitor, in proportion to it, over the
+/// window that is active now. Nothing else can be clicked meanwhile.
 class FinestraModale {
 public:
     /// Returns after `fine`, or after the window was closed.
     void esegui(Finestra& finestra);
-    /// The window goes out of sight at once, though its loop may have to wait for one that was started inside it.
+    /// The window goes out of sight at once, though its loop may have to wait for one that was started inside
+    /// it.
     void fine();
 
 private:

@@ -1,0 +1,134 @@
+// What two stations do to each other, with two real processes.
+#include "data/dao.h"
+#include "tests/data/attesa_guasto.h"
+#include "tests/data/stazione.h"
+#include "tests/sostegno/archivio_prova.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+
+namespace lumigrafo {
+namespace {
+
+using namespace std::chrono_literals;
+using prova::guastoDi;
+using prova::Stazione;
+
+constexpr auto kAttesa = 150ms;
+
+class Concorrenza : public ::testing::Test {
+protected:
+    Concorrenza() { archivio.ordine("A", 12, {{1, 3}, {2, 1}}); }
+    std::string pezzi() { return archivio.leggi("SELECT Pezzi1 FROM Lumigrafo"); }
+
+    prova::CartellaTemporanea cartella;
+    const std::filesystem::path file = cartella.percorso() / kFileArchivio;
+    prova::ArchivioProva archivio{file};
+    Workspace ws{kAttesa};
+    std::unique_ptr<Database> db = ws.OpenDatabase(file.string());
+    Stazione altra;
+};
+
+TEST_F(Concorrenza, UnaRigaInModificaFermaGliAltriPerUnTempoLimitato) {
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    ASSERT_EQ(altra("edit Numero = 12"), "fatto");
+
+    const auto inizio = std::chrono::steady_clock::now();
+    EXPECT_EQ(guastoDi([&] { rs->Edit(); }), 3218);
+    EXPECT_GE(std::chrono::steady_clock::now() - inizio, kAttesa);
+    EXPECT_EQ(guastoDi([&] { rs->Delete(); }), 3218);
+    EXPECT_EQ(guastoDi([&] { db->Execute("Delete * from Lumigrafo"); }), 3218);
+    EXPECT_EQ(guastoDi([&] { ws.BeginTrans(); }), 3218);
+    rs->AddNew();
+    rs->Fields()["Numero"].Value(13);
+    EXPECT_EQ(guastoDi([&] { rs->Update(); }), 3186);
+    EXPECT_EQ(db->OpenRecordset("Lumigrafo")->RecordCount(), 1); // reading goes on
+
+    ASSERT_EQ(altra("pezzi 40"), "fatto");
+    ASSERT_EQ(altra("update"), "fatto");
+    rs->Update(); // the new row was kept ready
+    rs->MoveFirst();
+    rs->Edit();
+    EXPECT_EQ(rs->Fields()["Pezzi1"].Value().aIntero16(), 40);
+    rs->CancelUpdate();
+    EXPECT_EQ(archivio.coda(), "13 A12");
+}
+
+TEST_F(Concorrenza, ChiAttendeProsegueQuandoLaRigaSiLibera) {
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    rs->Edit();
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    altra.manda("edit Numero = 12"); // it waits for us
+    rs->Fields()["Pezzi1"].Value(9);
+    rs->Update();
+    EXPECT_EQ(altra.risposta(), "fatto");
+    EXPECT_EQ(altra("annulla"), "fatto");
+    EXPECT_EQ(pezzi(), "9");
+}
+
+TEST_F(Concorrenza, NessunaModificaVaPerduta) {
+    Stazione terza;
+    archivio.esegui("UPDATE Lumigrafo SET Pezzi1 = 0");
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    ASSERT_EQ(terza("apri " + file.string()), "fatto");
+    altra.manda("conta 60");
+    terza.manda("conta 60");
+    EXPECT_EQ(altra.risposta(), "fatto");
+    EXPECT_EQ(terza.risposta(), "fatto");
+    EXPECT_EQ(pezzi(), "120");
+}
+
+TEST_F(Concorrenza, UnaStazioneUccisaLasciaLArchivioIntero) {
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    ASSERT_EQ(altra("inizia"), "fatto");
+    ASSERT_EQ(altra("esegui UPDATE Lumigrafo SET Pezzi1 = 99"), "fatto");
+    EXPECT_EQ(guastoDi([&] { db->Execute("UPDATE Lumigrafo SET Pezzi2 = 5"); }), 3218);
+    altra.uccidi();
+    EXPECT_EQ(db->Execute("UPDATE Lumigrafo SET Pezzi2 = 5"), 1);
+    EXPECT_EQ(pezzi(), "3");
+}
+
+TEST_F(Concorrenza, ArchivioInUsoEsclusivo) {
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    ASSERT_EQ(altra("esclusivo " + file.string()), "fatto");
+    EXPECT_EQ(guastoDi([&] { (void)ws.OpenDatabase(file.string()); }), 3045);
+    EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Lumigrafo"); }), 3187);
+    EXPECT_EQ(guastoDi([&] { rs->Requery(); }), 3187);
+    EXPECT_EQ(guastoDi([&] { rs->FindFirst("Numero = 12"); }), 3187);
+    EXPECT_EQ(rs->Fields()["Pezzi1"].Value().aIntero16(), 3); // what was read stays
+}
+
+TEST_F(Concorrenza, UnLettoreEternoFaFallireLaScritturaSenzaMezzeModifiche) {
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    ASSERT_EQ(altra("legge " + file.string()), "fatto");
+    rs->Edit();
+    rs->Fields()["Pezzi1"].Value(50);
+    EXPECT_EQ(guastoDi([&] { rs->Update(); }), 3218);
+    EXPECT_EQ(rs->Fields()["Pezzi1"].Value().aIntero16(), 3);
+    EXPECT_EQ(guastoDi([&] { rs->Update(); }), 3020);
+    altra.uccidi();
+    EXPECT_EQ(pezzi(), "3");
+    rs->Edit();
+    rs->Fields()["Pezzi1"].Value(50);
+    rs->Update();
+    EXPECT_EQ(pezzi(), "50");
+}
+
+TEST_F(Concorrenza, AprireUnSecondoArchivioNonPerdeIlBlocco) {
+    // Closing a file can drop all locks that a process holds on it.
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    rs->Edit();
+    (void)ws.OpenDatabase(file.string());
+    altra.manda("edit Numero = 12");
+    rs->Fields()["Pezzi1"].Value(rs->Fields()["Pezzi1"].Value().aIntero16() + 1);
+    rs->Update();
+    ASSERT_EQ(altra.risposta(), "fatto");
+    ASSERT_EQ(altra("annulla"), "fatto");
+    EXPECT_EQ(pezzi(), "4");
+}
+
+} // namespace
+} // namespace lumigrafo

@@ -1,0 +1,97 @@
+#include "data/dao.h"
+#include "data/istruzioni.h"
+#include "tests/sostegno/archivio_prova.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+#include <gtest/gtest.h>
+
+namespace lumigrafo {
+namespace {
+
+constexpr std::int32_t kOggi = 20260315;
+
+class Istruzioni : public ::testing::Test {
+protected:
+    std::unique_ptr<Recordset> apri(const std::string& sorgente) { return db->OpenRecordset(sorgente); }
+
+    prova::CartellaTemporanea cartella;
+    const std::filesystem::path file = cartella.percorso() / kFileArchivio;
+    prova::ArchivioProva archivio{file};
+    Workspace ws;
+    std::unique_ptr<Database> db = ws.OpenDatabase(file.string());
+};
+
+TEST_F(Istruzioni, LetturaDellaCoda) {
+    for (const auto& [sigla, numero] : {std::pair{"B", 2}, {"a", 9}, {"A", 3}, {"", 70}})
+        archivio.ordine(sigla, numero, {{1, 2}});
+    archivio.ordine(std::nullopt, 80, {{10, 3}});
+    std::string ordine;
+    const auto rs = apri(istruzioni::kLumigrafo);
+    for (; !rs->Eof(); rs->MoveNext())
+        ordine +=
+            rs->Fields()["sigla"].Value().aTestoOVuoto() + rs->Fields()["NUMERO"].Value().aTesto() + " ";
+    EXPECT_EQ(ordine, "80 70 A3 a9 B2 ");
+
+    const auto somma = apri(istruzioni::kSommaPezzi);
+    EXPECT_EQ(somma->Fields()["SommaDiPezzi1"].Value().aIntero16(), 8);
+    EXPECT_EQ(somma->Fields()["SommaDiPezzi10"].Value().aIntero16(), 3);
+    EXPECT_EQ(somma->Fields()["SommaDiPezzi2"].Value().aIntero16(), 0);
+
+    EXPECT_EQ(apri(istruzioni::kNumero)->Fields()["Numero"].Value().aIntero32(), 0);
+    const auto categorie = apri(istruzioni::kCategorie);
+    EXPECT_EQ(categorie->RecordCount(), 3);
+    EXPECT_EQ(categorie->Fields()["Descrizione"].Value().aTesto(), "Cucina");
+}
+
+TEST_F(Istruzioni, SommaDellaCodaVuotaENulla) {
+    const auto somma = apri(istruzioni::kSommaPezzi);
+    EXPECT_EQ(somma->RecordCount(), 1);
+    EXPECT_TRUE(somma->Fields()["SommaDiPezzi1"].Value().nullo());
+}
+
+TEST_F(Istruzioni, PuliziaERimozioni) {
+    archivio.ordine("A", 1, {{1, 1}});
+    archivio.ordine("A", 2, {{10, 1}});
+    archivio.ordine("A", 3, {});
+    archivio.ordine("B", 1, {{2, 1}});
+    EXPECT_EQ(db->Execute(istruzioni::kTogliServiti), 1);
+    EXPECT_EQ(archivio.coda(), "A1 A2 B1");
+    EXPECT_EQ(db->Execute(istruzioni::togliNumero("1")), 2); // of whatever letter
+    EXPECT_EQ(archivio.coda(), "A2");
+    EXPECT_EQ(db->Execute(istruzioni::kTogliTutti), 1);
+    EXPECT_EQ(db->Execute(istruzioni::inserisciNumero("7")), 1);
+    EXPECT_EQ(archivio.leggi(
+                  "SELECT quote(Sigla), Numero, Categoria1, Categoria8, Categoria9, Pezzi1 FROM Lumigrafo"),
+              "''|7|-1|-1|0|0");
+}
+
+TEST_F(Istruzioni, StatoServito) {
+    archivio.ordine("A", 12, {{1, 1}, {2, 1}});
+    archivio.ordine("B", 12, {{1, 1}});
+    archivio.ordine(std::nullopt, 12, {{1, 1}});
+    EXPECT_EQ(db->Execute(istruzioni::dettaglioLumigrafo(-1, 10, "a", "12", 2)), 1);
+    EXPECT_EQ(db->Execute(istruzioni::dettaglio(-1, 10, "A", "12", kOggi)), 2);
+    EXPECT_EQ(db->Execute(istruzioni::dettaglio(-1, 10, "A", "12", kOggi - 1)), 0);
+    EXPECT_EQ(db->Execute(istruzioni::scontrinoServito("A", "12", kOggi)), 1);
+    EXPECT_EQ(archivio.leggi("SELECT SERVITO, MinutiServito FROM DettaglioLumigrafo WHERE Sigla = 'A'"),
+              "0|0 -1|10");
+    EXPECT_EQ(archivio.leggi("SELECT Sigla, Servito FROM ScontriniEmessi ORDER BY ID_Scontrino"),
+              "A|-1 B|0 NULL|0");
+
+    EXPECT_EQ(db->Execute(istruzioni::dettaglioLumigrafo(0, 11, "A", "12")), 2);
+    EXPECT_EQ(archivio.leggi("SELECT SERVITO, MinutiServito FROM DettaglioLumigrafo WHERE Sigla = 'A'"),
+              "0|11 0|11");
+    // An empty letter isn't a null one.
+    EXPECT_EQ(db->Execute(istruzioni::dettaglioLumigrafo(-1, 10, "", "12")), 0);
+
+    archivio.ordine("A", 13, {});
+    archivio.esegui("INSERT INTO ScontriniEmessi (Sigla, Numero, DataCompetenza, Stornato) VALUES ('A', 13, "
+                    "20260315, -1)");
+    const auto scontrini = apri(istruzioni::scontrini("A", "13", kOggi));
+    EXPECT_EQ(scontrini->RecordCount(), 2);
+    EXPECT_TRUE(scontrini->Fields()["Stornato"].Value().aBooleano()); // the newest first
+    EXPECT_FALSE(scontrini->Fields()["Servito"].Value().aBooleano());
+}
+
+} // namespace
+} // namespace lumigrafo
