@@ -11,9 +11,13 @@ errore() {
 }
 
 # What building, testing and the demonstration need, as Debian names it.
-pacchetti_costruzione=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev libsqlite3-dev)
-pacchetti_uso=(libqt6svg6 fonts-liberation fonts-dejavu-core fonts-comic-neue fonts-roboto fonts-lato fonts-open-sans)
-pacchetti_prova=(libgtest-dev libgmock-dev xvfb xauth openbox x11-xserver-utils x11-utils xdotool imagemagick sqlite3)
+pacchetti_costruzione=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev qt6-speech-dev
+  qt6-declarative-dev libsqlite3-dev)
+pacchetti_uso=(libqt6svg6 qt6-speech-speechd-plugin speech-dispatcher speech-dispatcher-espeak-ng
+  speech-dispatcher-audio-plugins espeak-ng fonts-liberation fonts-dejavu-core fonts-comic-neue fonts-roboto fonts-lato
+  fonts-open-sans)
+pacchetti_prova=(libgtest-dev libgmock-dev xvfb xauth openbox x11-xserver-utils x11-utils xdotool imagemagick
+  sqlite3 pulseaudio pulseaudio-utils)
 
 # Installs the packages that are missing; with none missing it asks the package manager nothing.
 installa() {

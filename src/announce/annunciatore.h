@@ -23,11 +23,4 @@ public:
     virtual void Parla(const std::string& testo) = 0;
 };
 
-/// For a station without a voice: takes every call and says nothing.
-class AnnunciatoreMuto : public Annunciatore {
-public:
-    void ScegliVoce() override {}
-    void AccodaAnnuncio(const std::string&) override {}
-};
-
 } // namespace lumigrafo

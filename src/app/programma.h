@@ -1,14 +1,19 @@
 #pragma once
 
+#include "announce/annunciatore_vocale.h"
 #include "app/dialoghi_qt.h"
 #include "boards/crea_videata.h"
+#include "console/dati_stato.h"
+#include "console/pompa_console.h"
 #include "console/qt/frmGestione.h"
 #include "platform/linux/alimentazione.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
 #include "platform/linux/sistema.h"
+#include "platform/qt/notifiche_qt.h"
 #include "platform/qt/pompa_qt.h"
 #include "platform/qt/timers_qt.h"
+#include "platform/qt/voce_qt.h"
 #include "settings/qt/messaggi_qt.h"
 
 #include <memory>
@@ -16,7 +21,7 @@
 namespace lumigrafo {
 
 /// The whole program put together: the platform's real sides, the console and its window.
-class Programma : private DatiConsole {
+class Programma {
 public:
     /// What is handed in outlives the program.
     Programma(const Ambiente& ambiente, Avvisi& avvisi, Uscita& uscita);
@@ -25,19 +30,22 @@ public:
     void avvia();
 
 private:
-    [[nodiscard]] std::string Reparto(int quadrante) const override;
-    [[nodiscard]] bool SoloAndroid() const override;
-
     const Ambiente& ambiente_;
     OrologioSistema orologio_;
-    PompaQt pompa_;
+    StatoConsole stato_;
+    DatiDaStato dati_{stato_};
+    PompaQt pompaQt_;
+    PompaConsole pompa_{pompaQt_, stato_};
     TimersQt timers_;
     ProcessiLinux processi_;
     AlimentazioneLinux alimentazione_{processi_};
     SistemaLinux sistema_;
     MessaggiQt messaggi_{timers_};
     DialoghiQt dialoghi_;
-    AnnunciatoreMuto annunciatore_;
+    NotificheQt notifiche_;
+    RegistroLog log_{ambiente_.cartella, orologio_};
+    VoceQt voce_;
+    AnnunciatoreVocale annunciatore_;
     FiscaleAssente fiscale_;
     LumigrafiAssenti android_;
     ServerAssente server_;

@@ -10,11 +10,13 @@
 
 namespace lumigrafo {
 
-/// The console apart from its window: the running state, its one owner, and the routines that work on it. The
-/// window hands its events on to here.
+/// The console apart from its window: the routines that work on the running state. The window hands its
+/// events on to here.
 class Console {
 public:
-    Console(const PorteConsole& porte, FinestraConsole& finestra, FabbricaVideata fabbrica);
+    /// What is handed in outlives the console.
+    Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole& finestra,
+            FabbricaVideata fabbrica);
 
     [[nodiscard]] Controlli& controlli() { return controlli_; }
     [[nodiscard]] const Controlli& controlli() const { return controlli_; }
@@ -45,7 +47,7 @@ private:
     void cmdRipristina();
     void allargaGriglia(int quadrante);
 
-    StatoConsole stato_;
+    StatoConsole& stato_;
     Controlli controlli_;
     ContestoConsole contesto_;
     Caricatore caricatore_;

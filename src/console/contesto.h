@@ -51,11 +51,8 @@ struct ContestoConsole {
     FileIni videata{porte.ambiente.file(kFileVideata)};
     FileIni ultimi{porte.ambiente.file(kFileUltimiChiamati)};
 
-    /// Lets pending events through. While a scanned code is being worked on, keys stay in the queue: they
-    /// belong to the next code, and `txtBarCode` is emptied at the end.
-    void cedi(std::string_view punto) {
-        porte.pompa.cedi(punto, stato.BarCodeInCorso ? Ammessi::SenzaTastiera : Ammessi::Tutti);
-    }
+    /// Lets pending events through.
+    void cedi(std::string_view punto) { porte.pompa.cedi(punto); }
     /// A scanner needs this field: nearly every action gives it the focus back.
     void fuocoSuTxtBarCode() { controlli("txtBarCode").SetFocus(); }
 };

@@ -24,7 +24,8 @@ struct LumigrafoAndroid {
     std::int16_t Font = 0;
 };
 
-/// The running state that the console's routines share. `Console` owns it; each routine holds a reference.
+/// The running state that the console's routines share. The program owns it; each routine holds a
+/// reference.
 struct StatoConsole {
     std::string PathDB;       ///< folder of the archive, UTF-8
     std::string PathArchivio; ///< the archive's full path, UTF-8

@@ -4,30 +4,14 @@
 
 namespace lumigrafo::prova {
 
-namespace {
-
-class DatiDi : public DatiConsole {
-public:
-    explicit DatiDi(std::unique_ptr<Console>& console) : console_(console) {}
-    [[nodiscard]] std::string Reparto(int quadrante) const override {
-        return console_->controlli()("lblReparto", quadrante).Caption();
-    }
-    [[nodiscard]] bool SoloAndroid() const override { return console_->stato().SoloAndroid; }
-
-private:
-    std::unique_ptr<Console>& console_;
-};
-
-} // namespace
-
 Console& Banco::console() {
     if (console_)
         return *console_;
-    dati_ = std::make_unique<DatiDi>(console_);
-    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, pompa, timers, *dati_});
+    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, pompaConsole, timers, dati});
     console_ = std::make_unique<Console>(
-        PorteConsole{ambiente, orologio, pompa, timers, avvisi, messaggi, processi, alimentazione, sistema,
-                     uscita, dialoghi, annunciatore, fiscale, android, server},
+        stato,
+        PorteConsole{ambiente, orologio, pompaConsole, timers, avvisi, messaggi, processi, alimentazione,
+                     sistema, uscita, dialoghi, annunciatore, fiscale, android, server},
         finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board, whatever the type: it has the slots of all three quadrants.

@@ -2,6 +2,8 @@
 
 #include "boards/crea_videata.h"
 #include "console/console.h"
+#include "console/dati_stato.h"
+#include "console/pompa_console.h"
 #include "platform/finti/finti.h"
 #include "settings/finti/messaggi_finti.h"
 #include "tests/console/finti_console.h"
@@ -28,7 +30,10 @@ public:
     FileIni ultimi{cartella.percorso() / kFileUltimiChiamati};
 
     OrologioFinto orologio{&diario};
+    StatoConsole stato;
+    DatiDaStato dati{stato};
     PompaFinta pompa{&diario};
+    PompaConsole pompaConsole{pompa, stato};
     TimersFinti timers;
     AvvisiFinti avvisi{&diario};
     MessaggiFinti messaggi{&diario};
@@ -63,7 +68,6 @@ public:
     [[nodiscard]] Diario senza(std::initializer_list<std::string_view> inizi) const;
 
 private:
-    std::unique_ptr<DatiConsole> dati_;
     std::unique_ptr<ServiziSchede> servizi_;
     std::unique_ptr<Console> console_;
 };

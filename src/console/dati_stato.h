@@ -1,0 +1,26 @@
+#pragma once
+
+#include "announce/annunciatore_vocale.h"
+#include "boards/scheda.h"
+#include "console/stato.h"
+
+namespace lumigrafo {
+
+/// What boards and voice see of the console's running state.
+class DatiDaStato final : public DatiConsole, public DatiVoce {
+public:
+    explicit DatiDaStato(StatoConsole& stato) : s_(stato) {}
+
+    [[nodiscard]] std::string Reparto(int quadrante) const override {
+        return s_.Reparto.at(static_cast<std::size_t>(quadrante));
+    }
+    [[nodiscard]] bool SoloAndroid() const override { return s_.SoloAndroid; }
+    [[nodiscard]] std::int16_t VelocitaVocale() const override { return s_.VelocitaVocale; }
+    [[nodiscard]] std::int16_t VolumeVocale() const override { return s_.VolumeVocale; }
+    [[nodiscard]] bool& VoceAttiva() override { return s_.VoceAttiva; }
+
+private:
+    StatoConsole& s_;
+};
+
+} // namespace lumigrafo
