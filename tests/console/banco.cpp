@@ -7,12 +7,14 @@ namespace lumigrafo::prova {
 Console& Banco::console() {
     if (console_)
         return *console_;
-    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, pompaConsole, timers, dati});
+    Timers& iTimers = timersVeri ? *timersVeri : timers;
+    pompaConsole_ = std::make_unique<PompaConsole>(pompaVera ? *pompaVera : pompa, stato);
+    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, *pompaConsole_, iTimers, dati});
     console_ = std::make_unique<Console>(
         stato,
-        PorteConsole{ambiente, orologio, pompaConsole, timers, avvisi, messaggi, processi, alimentazione,
+        PorteConsole{ambiente, orologio, *pompaConsole_, iTimers, avvisi, messaggi, processi, alimentazione,
                      sistema, uscita, dialoghi, annunciatore, fiscale, android, server},
-        finestra, [this](TipoVideata tipo) {
+        finestraVera ? *finestraVera : finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board, whatever the type: it has the slots of all three quadrants.
             return creaVideata(TipoVideata::frmLumigrafo, *servizi_,

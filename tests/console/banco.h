@@ -33,7 +33,6 @@ public:
     StatoConsole stato;
     DatiDaStato dati{stato};
     PompaFinta pompa{&diario};
-    PompaConsole pompaConsole{pompa, stato};
     TimersFinti timers;
     AvvisiFinti avvisi{&diario};
     MessaggiFinti messaggi{&diario};
@@ -47,6 +46,10 @@ public:
     AndroidFinto android{diario};
     ServerFinto server{diario};
     FinestraFinta finestra{diario};
+    /// Real sides in the place of the fakes, for tests of the window; set before the first `console()`.
+    Pompa* pompaVera = nullptr;
+    Timers* timersVeri = nullptr;
+    FinestraConsole* finestraVera = nullptr;
 
     /// The console of one run. Settings must stand in the files before.
     Console& console();
@@ -68,6 +71,7 @@ public:
     [[nodiscard]] Diario senza(std::initializer_list<std::string_view> inizi) const;
 
 private:
+    std::unique_ptr<PompaConsole> pompaConsole_;
     std::unique_ptr<ServiziSchede> servizi_;
     std::unique_ptr<Console> console_;
 };
