@@ -29,7 +29,8 @@ std::set<std::string> colonneConMaiuscole(sqlite3* db) {
     if (sqlite3_prepare_v2(db, sql, -1, &elenco, nullptr) != SQLITE_OK)
         throw erroreSqlite(db, Operazione::Apertura);
     const std::shared_ptr<sqlite3_stmt> chiude(elenco, sqlite3_finalize);
-    while (sqlite3_step(elenco) == SQLITE_ROW) {
+    int passo = SQLITE_ROW;
+    while ((passo = sqlite3_step(elenco)) == SQLITE_ROW) {
         const char *tipo = nullptr, *confronto = nullptr;
         const auto* tabella = reinterpret_cast<const char*>(sqlite3_column_text(elenco, 0));
         const auto* colonna = reinterpret_cast<const char*>(sqlite3_column_text(elenco, 1));
@@ -38,6 +39,8 @@ std::set<std::string> colonneConMaiuscole(sqlite3* db) {
         if (esito == SQLITE_OK && diTesto(tipo) && ugualeSenzaMaiuscole(confronto, "BINARY"))
             nomi.insert(minuscolo(colonna));
     }
+    if (passo != SQLITE_DONE)
+        throw erroreSqlite(db, Operazione::Apertura);
     return nomi;
 }
 

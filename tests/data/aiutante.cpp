@@ -21,7 +21,9 @@ public:
         std::string comando, resto;
         parole >> comando >> std::ws;
         std::getline(parole, resto);
-        if (comando == "apri") {
+        if (comando == "attesa") {
+            ws_ = Workspace(std::chrono::milliseconds(std::stoi(resto)));
+        } else if (comando == "apri") {
             rs_.reset();
             db_ = ws_.OpenDatabase(resto);
             rs_ = db_->OpenRecordset("Lumigrafo");

@@ -119,15 +119,11 @@ TEST_F(Concorrenza, UnLettoreEternoFaFallireLaScritturaSenzaMezzeModifiche) {
 TEST_F(Concorrenza, AprireUnSecondoArchivioNonPerdeIlBlocco) {
     // Closing a file can drop all locks that a process holds on it.
     const auto rs = db->OpenRecordset("Lumigrafo");
+    ASSERT_EQ(altra("attesa 50"), "fatto");
     ASSERT_EQ(altra("apri " + file.string()), "fatto");
     rs->Edit();
     (void)ws.OpenDatabase(file.string());
-    altra.manda("edit Numero = 12");
-    rs->Fields()["Pezzi1"].Value(rs->Fields()["Pezzi1"].Value().aIntero16() + 1);
-    rs->Update();
-    ASSERT_EQ(altra.risposta(), "fatto");
-    ASSERT_EQ(altra("annulla"), "fatto");
-    EXPECT_EQ(pezzi(), "4");
+    EXPECT_EQ(altra("edit Numero = 12").substr(0, 5), "3218 ");
 }
 
 } // namespace
