@@ -1,19 +1,28 @@
 #include "app/dialoghi_qt.h"
 
+#include "settings/qt/sagoma_qt.h"
 #include "settings/qt/spegni_qt.h"
+
+#include <utility>
 
 namespace lumigrafo {
 
-DialoghiQt::DialoghiQt(Avvisi& avvisi, Processi& processi, Alimentazione& alimentazione, Uscita& uscita)
-    : avvisi_(avvisi), processi_(processi), alimentazione_(alimentazione), uscita_(uscita) {}
+DialoghiQt::DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione,
+                       Uscita& uscita, std::function<Rettangolo()> console)
+    : sagoma_(sagoma), console_(std::move(console)), processi_(processi), alimentazione_(alimentazione),
+      uscita_(uscita) {}
 
 void DialoghiQt::manca(const char* cosa) {
-    avvisi_.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",
+    sagoma_.avvisi.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",
                     Icona::Informazione, Bottoni::Ok});
 }
 
 void DialoghiQt::frmSpegni() {
     mostraSpegni(processi_, alimentazione_, uscita_);
+}
+
+void DialoghiQt::frmSagoma() {
+    mostraSagoma(sagoma_, console_());
 }
 
 void DialoghiQt::frmDatabase() {
@@ -30,9 +39,6 @@ void DialoghiQt::frmComunicazione() {
 }
 void DialoghiQt::frmImposta() {
     manca("La finestra delle impostazioni");
-}
-void DialoghiQt::PosizionaLumigrafo() {
-    manca("Il posizionamento sul secondo monitor");
 }
 void DialoghiQt::UtilitaFiscali() {
     manca("L'utilità fiscale");

@@ -5,13 +5,18 @@
 #include "platform/processi.h"
 #include "platform/sistema.h"
 #include "settings/dialoghi.h"
+#include "settings/sagoma.h"
+
+#include <functional>
 
 namespace lumigrafo {
 
 /// The dialogs as windows. Those that this version doesn't have yet say so.
 class DialoghiQt : public Dialoghi {
 public:
-    DialoghiQt(Avvisi& avvisi, Processi& processi, Alimentazione& alimentazione, Uscita& uscita);
+    /// `console`: where the console stands on the desktop, twips.
+    DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
+               std::function<Rettangolo()> console);
 
     void frmSpegni() override;
     void frmDatabase() override;
@@ -19,14 +24,15 @@ public:
     void frmInserisciNumeri() override;
     void frmComunicazione() override;
     void frmImposta() override;
-    void PosizionaLumigrafo() override;
+    void frmSagoma() override;
     void UtilitaFiscali() override;
     bool ChiediPassword(const std::string& richiesta) override;
 
 private:
     void manca(const char* cosa);
 
-    Avvisi& avvisi_;
+    ServiziSagoma sagoma_;
+    std::function<Rettangolo()> console_;
     Processi& processi_;
     Alimentazione& alimentazione_;
     Uscita& uscita_;

@@ -7,11 +7,14 @@
 #include "console/pompa_console.h"
 #include "console/qt/frmGestione.h"
 #include "platform/linux/alimentazione.h"
+#include "platform/linux/desktop.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
 #include "platform/linux/sistema.h"
 #include "platform/qt/notifiche_qt.h"
 #include "platform/qt/pompa_qt.h"
+#include "platform/qt/schermi_qt.h"
+#include "platform/qt/scelta_file_qt.h"
 #include "platform/qt/timers_qt.h"
 #include "platform/qt/voce_qt.h"
 #include "settings/qt/messaggi_qt.h"
@@ -41,6 +44,8 @@ private:
     AlimentazioneLinux alimentazione_{processi_};
     SistemaLinux sistema_;
     MessaggiQt messaggi_{timers_};
+    SchermiQt schermi_;
+    DesktopLinux desktop_{processi_};
     DialoghiQt dialoghi_;
     NotificheQt notifiche_;
     RegistroLog log_{ambiente_.cartella, orologio_};
@@ -49,8 +54,9 @@ private:
     FiscaleAssente fiscale_;
     LumigrafiAssenti android_;
     ServerAssente server_;
-    ServiziSchede servizi_;
     frmGestione finestra_;
+    SceltaFileQt sceltaFile_{finestra_};
+    ServiziSchede servizi_;
     Console console_;
 };
 

@@ -67,4 +67,11 @@ inline constexpr std::array<RigaFamiglia, 8> kFamiglia{{
     return nomi.at(static_cast<std::size_t>(n - 1));
 }
 
+/// The box of a slot's n-th big number, 1..6, counted as they stand on the board: the first holds the newest.
+[[nodiscard]] constexpr std::string_view nomeCasella(int n) {
+    constexpr std::array<std::string_view, 6> nomi{"picNumero1", "picNumero2", "picNumero3",
+                                                   "picNumero4", "picNumero5", "picNumero6"};
+    return nomi.at(static_cast<std::size_t>(n - 1));
+}
+
 } // namespace lumigrafo

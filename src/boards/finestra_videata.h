@@ -29,7 +29,8 @@ public:
 struct EventiFinestra {
     std::function<void(std::string_view nome, int indice)> clic;
     std::function<void()> attivata;
-    std::function<void()> chiusa; ///< the window system asks for its end
+    std::function<void()> doppioClicSfondo; ///< a double click where no other control lies
+    std::function<void()> chiusa;           ///< the window system asks for its end
 };
 
 /// Makes the window of a board that is being loaded, hidden. The window keeps the controls alive while it

@@ -24,6 +24,8 @@ public:
 
     /// Starts it, or begins a running one anew; the running timer keeps its period.
     void avvia();
+    /// Starts it; a running one goes on to its end as if nothing had happened.
+    void prosegui() { timer_->abilita(true); }
     [[nodiscard]] bool attivo() const { return timer_->abilitato(); }
     [[nodiscard]] std::int16_t conta() const { return conta_; }
 

@@ -1,25 +1,21 @@
-#include "boards/layout_lumigrafo.h"
-
+#include "boards/layout_videate.h"
 #include "boards/righe.h"
 
 namespace lumigrafo {
 
 namespace {
 
-constexpr Carattere kTitolo{"Arial", 32.25, true, true};
 constexpr Carattere kReparto{"Arial", 36, true, true};
 constexpr Carattere kGrande{"Arial Narrow", 129.75, true};
 constexpr Carattere kPiccolo{"Arial", 39.75, true};
 constexpr Carattere kIntestazione{"Arial", 15.75, true, true};
-constexpr Carattere kComunicazione{"Arial", 84.75, true};
 constexpr Carattere kChiudi{"Arial", 12, true};
-constexpr Colore kGrigio = rgb(128, 128, 128);
 constexpr Colore kGrigioScuro = rgb(40, 40, 40);
 constexpr Allineamento kCentro = Allineamento::Centro;
 
 // clang-format off
 constexpr std::array<Descrizione, 4> kPrima{{
-    {Tipo::Etichetta, "lblTitoloLumigrafo", kSenzaIndice, "", {75, 60, 14490, 705}, kTitolo, kCentro, kBianco},
+    {Tipo::Etichetta, "lblTitoloLumigrafo", kSenzaIndice, "", {75, 60, 14490, 705}, kCarattereTitolo, kCentro, kBianco},
     {Tipo::Riquadro, "picPannello", 0, "", {45, 750, 4950, 9600}, {}, kCentro, kBianco, kNero},
     {Tipo::Riquadro, "picPannello", 1, "", {5070, 750, 4950, 9600}, {}, kCentro, kBianco, kNero},
     {Tipo::Riquadro, "picPannello", 2, "", {10095, 750, 4950, 9600}, {}, kCentro, kBianco, kNero},
@@ -39,17 +35,14 @@ constexpr std::array<RigaSlot, 11> kSlot{{
     {{Tipo::Etichetta, "lblNumero6", 0, "", {3285, 8475, 1560, 855}, kPiccolo, kCentro, kBianco}},
 }};
 
-constexpr std::array<Descrizione, 4> kDopo{{
+constexpr std::array<Descrizione, 2> kDopo{{
     {.tipo = Tipo::Riquadro, .nome = "picChiudi", .padre = "", .rett = {14745, 15, 360, 345}, .sfondo = kGrigioScuro, .cliccabile = true},
     {.tipo = Tipo::Etichetta, .nome = "lblChiudi", .padre = "picChiudi", .rett = {0, 0, 360, 345}, .carattere = kChiudi,
      .allineamento = kCentro, .testo = kGrigio, .caption = "X", .nomeAccessibile = "Chiudi il lumigrafo", .cliccabile = true},
-    {.tipo = Tipo::Riquadro, .nome = "picComunicazione", .padre = "", .rett = {0, 0, 15120, 10395}, .sfondo = kNero, .visibile = false},
-    {.tipo = Tipo::Etichetta, .nome = "lblComunicazione", .padre = "picComunicazione", .rett = {0, 0, 15120, 10395},
-     .carattere = kComunicazione, .allineamento = kCentro, .testo = kBianco},
 }};
 // clang-format on
 
-constexpr auto kControlli = unisci(kPrima, perSlot<3>(kPannelli, kSlot), kDopo);
+constexpr auto kControlli = unisci(kPrima, perSlot<3>(kPannelli, kSlot), kDopo, comunicazione(15120, 10395));
 static_assert(layoutValido(kControlli));
 
 } // namespace

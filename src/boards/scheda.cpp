@@ -1,5 +1,6 @@
 #include "boards/scheda.h"
 
+#include "boards/layout_videate.h"
 #include "platform/conversioni.h"
 
 #include <utility>
@@ -19,13 +20,15 @@ std::string conCifra(std::string_view parola, int cifra) {
 
 } // namespace
 
-Scheda::Scheda(TipoVideata tipo, const Layout& layout, const ServiziSchede& servizi)
+Scheda::Scheda(TipoVideata tipo, const ServiziSchede& servizi)
     : riga_(famiglia(tipo)), servizi_(servizi), impostazioni_(servizi.ambiente.file(kFileImpostazioni)),
-      videata_(servizi.ambiente.file(kFileVideata)), controlli_(std::make_shared<Controlli>(layout)) {
+      videata_(servizi.ambiente.file(kFileVideata)), controlli_(std::make_shared<Controlli>(layoutDi(tipo))) {
     for (int slot = 0; slot < riga_.lampeggi; ++slot)
         lampeggi_.push_back(
             std::make_unique<Lampeggio>(servizi.timers, formaDi(slot, riga_.lampeggi), NumeroLampeggi,
                                         [this, slot](bool usuale) { faseLampeggio(slot, usuale); }));
+    if (const RigaPubblicita* pubblicita = rigaPubblicita(tipo))
+        pubblicita_.emplace(*pubblicita, *controlli_, servizi.timers, servizi.ambiente.cartella);
 }
 
 void Scheda::Carica(std::unique_ptr<FinestraVideata> finestra) {
@@ -36,11 +39,15 @@ void Scheda::Carica(std::unique_ptr<FinestraVideata> finestra) {
         titolo->Caption(impostazione("TitoloLumigrafo", "STIAMO SERVENDO I NUMERI"));
     vesti();
     NumeroLampeggi = aIntero16(impostazione("NumeroLampeggi", 20));
+    if (pubblicita_)
+        pubblicita_->prepara(impostazioni_);
     servizi_.pompa.cedi("Videata/Load");
     if (!finestra_)
         return; // unloaded by one of those events
     finestra_->riduci(riga_.minimizzata.vale(stato()));
     finestra_->titolo("");
+    if (pubblicita_)
+        pubblicita_->concludi(impostazioni_);
 }
 
 void Scheda::copriConComunicazione() {
@@ -57,6 +64,12 @@ Condizione Scheda::stato() const {
 }
 
 void Scheda::Attiva() {
+    riprendiPosto();
+    if (finestra_)
+        attivata();
+}
+
+void Scheda::riprendiPosto() {
     if (!finestra_ || Posizionata || riga_.nonPosizionata.vale(stato()))
         return;
     Rettangolo posto;
@@ -80,6 +93,7 @@ void Scheda::Scarica() {
     scrivi("Width", posto.width);
     scrivi("Height", posto.height);
     lampeggi_.clear();
+    pubblicita_.reset();
     finestra_.reset();
 }
 
@@ -87,6 +101,8 @@ void Scheda::Blinka(std::int16_t indice) {
     if (indice >= 0 && indice < static_cast<int>(lampeggi_.size()))
         lampeggi_[static_cast<std::size_t>(indice)]->avvia();
 }
+
+void Scheda::Lampeggia(const std::string&, const std::string&) {}
 
 void Scheda::faseLampeggio(int slot, bool usuale) {
     modulo()("lblNumero3", slot).Visible(usuale);
@@ -120,12 +136,23 @@ void Scheda::leggiNumeri(int slot) {
             .Caption(videata_.LeggiIni(std::to_string(slot), conCifra("Numero", n)));
 }
 
-void Scheda::carattereNumeriGrandi(int slot, const std::string& nome, float punti) {
-    for (int n = 1; n <= riga_.grandi; ++n) {
-        Controllo& numero = modulo()(etichettaNumero(n), slot);
-        numero.FontSize(punti);
-        numero.FontName(nome);
-    }
+Colore Scheda::colore(std::string_view parola, int slot, std::int32_t predefinito) const {
+    return Colore(aIntero32(impostazione(parola, slot, predefinito)));
+}
+
+CarattereNumeri Scheda::carattereNumeri(const ValoreIni& nome, const ValoreIni& punti) const {
+    return {.punti = aSingolo(impostazione("FontSizeNumeri", punti)),
+            .nome = impostazione("FontNumeri", nome)};
+}
+
+void Scheda::carattereNumeriGrandi(int slot, const CarattereNumeri& carattere) {
+    for (int n = 1; n <= riga_.grandi; ++n)
+        carattere.metti(modulo()(etichettaNumero(n), slot));
+}
+
+void CarattereNumeri::metti(Controllo& numero) const {
+    numero.FontSize(punti);
+    numero.FontName(nome);
 }
 
 } // namespace lumigrafo

@@ -8,7 +8,7 @@ namespace lumigrafo {
 /// on show with its colours and an empty title.
 class SchedaLumigrafo : public Scheda {
 public:
-    explicit SchedaLumigrafo(const ServiziSchede& servizi);
+    explicit SchedaLumigrafo(const ServiziSchede& servizi) : Scheda(TipoVideata::frmLumigrafo, servizi) {}
 
 protected:
     void vesti() override;

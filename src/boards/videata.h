@@ -3,6 +3,7 @@
 #include "forms/controlli.h"
 
 #include <cstdint>
+#include <string>
 
 namespace lumigrafo {
 
@@ -25,6 +26,9 @@ public:
     virtual void Posiziona(const Rettangolo& posto) = 0;
     /// Starts the blink of a slot's newest number; an index that the board hasn't does nothing.
     virtual void Blinka(std::int16_t indice) = 0;
+    /// The next-customer board: desk `Cassa` ("A" to "E") serves `Numero`, and its row blinks. Other boards
+    /// ignore it.
+    virtual void Lampeggia(const std::string& Cassa, const std::string& Numero) = 0;
     /// Closes the window, which saves its geometry. Nothing happens where it isn't loaded.
     virtual void Scarica() = 0;
 };

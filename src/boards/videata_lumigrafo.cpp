@@ -37,15 +37,22 @@ std::shared_ptr<Scheda> VideataLumigrafo::carica() {
     const std::shared_ptr<Scheda> scheda = creaScheda(tipo_, servizi_);
     scheda_ = scheda;
     CaricoInCorso carico(scheda_);
-    scheda->Carica(finestre_(scheda->controlli(), {.clic = [this](std::string_view nome, int) { clic(nome); },
-                                                   .attivata =
-                                                       [this] {
-                                                           if (const auto viva = scheda_)
-                                                               viva->Attiva();
-                                                       },
-                                                   .chiusa = [this] { Scarica(); }}));
+    scheda->Carica(finestre_(scheda->controlli(), eventi()));
     carico.riuscito();
     return scheda;
+}
+
+EventiFinestra VideataLumigrafo::eventi() {
+    const auto allaViva = [this](void (Scheda::*routine)()) {
+        return [this, routine] {
+            if (const auto viva = scheda_)
+                ((*viva).*routine)();
+        };
+    };
+    return {.clic = [this](std::string_view nome, int) { clic(nome); },
+            .attivata = allaViva(&Scheda::Attiva),
+            .doppioClicSfondo = allaViva(&Scheda::DoppioClicSfondo),
+            .chiusa = [this] { Scarica(); }};
 }
 
 void VideataLumigrafo::clic(std::string_view nome) {
@@ -86,6 +93,10 @@ void VideataLumigrafo::Posiziona(const Rettangolo& posto) {
 
 void VideataLumigrafo::Blinka(std::int16_t indice) {
     carica()->Blinka(indice);
+}
+
+void VideataLumigrafo::Lampeggia(const std::string& Cassa, const std::string& Numero) {
+    carica()->Lampeggia(Cassa, Numero);
 }
 
 void VideataLumigrafo::Scarica() {

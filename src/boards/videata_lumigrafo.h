@@ -23,10 +23,12 @@ public:
     void Riduci(bool ridotta) override;
     void Posiziona(const Rettangolo& posto) override;
     void Blinka(std::int16_t indice) override;
+    void Lampeggia(const std::string& Cassa, const std::string& Numero) override;
     void Scarica() override;
 
 private:
     std::shared_ptr<Scheda> carica();
+    [[nodiscard]] EventiFinestra eventi();
     void clic(std::string_view nome);
 
     TipoVideata tipo_;

@@ -118,8 +118,7 @@ std::string Avvio::esitoEco() const {
     if (c_.porte.sistema.eco(server))
         return "PING SU " + server + " RIUSCITO CORRETTAMENTE";
     return "PING SU " + server +
-           " NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi di rete siano collegati e "
-           "che i "
+           " NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi di rete siano collegati e che i "
            "led del switch siano accesi.";
 }
 
@@ -164,7 +163,7 @@ void Avvio::attiva() {
     attivata_ = true;
     // Equality with the stored true value, so the 1 of a ticked box doesn't pass.
     if (aDoppio(c_.impostazioni.LeggiIni(kSezioneImpostazioni, "Posiziona", 0)) == kPosizionaVero)
-        c_.porte.dialoghi.PosizionaLumigrafo();
+        comandi_.cmdPosizionaLumigrafo();
     c_.cedi("Form_Activate/1");
     c_.finestra.InPrimoPiano();
     c_.fuocoSuTxtBarCode();
@@ -173,7 +172,7 @@ void Avvio::attiva() {
 void Avvio::scarica() {
     FermaPrimoPiano(c_.porte.processi);
     if (c_.stato.frmVideata)
-        c_.stato.frmVideata->Scarica();
+        c_.frmVideata().Scarica();
     c_.porte.uscita.termina(0);
 }
 

@@ -45,8 +45,8 @@ public:
             if (!vero(campi.categoria[c]->Value()))
                 continue;
             if (!letto) {
-                sigla_ = trim(campi.sigla.Value().aTestoOVuoto());
-                numero_ = aIntero16(val(campi.numero.Value().aTestoOVuoto()));
+                sigla_ = campi.sigla.Value().aTestoOVuoto();
+                numero_ = campi.numero.Value().aTestoOVuoto();
                 evidenzia_ = vero(campi.evidenzia.Value());
                 letto = true;
             }
@@ -75,16 +75,16 @@ private:
     void metti(std::size_t q) {
         Griglia& grid = s_.grid[q];
         // An order with both categories of quadrant 0 shows once.
-        const bool giaMesso = sigla_ == s_.UltimaSigla[q] && numero_ == s_.UltimoNumero[q];
+        const bool giaMesso = sigla_ == s_.UltimaSigla[q] && val(numero_) == s_.UltimoNumero[q];
         // Tested before a row is added, so a grid can end with one row more that holds a single cell.
         if (grid.Rows() > s_.NumeroMassimoRighe || giaMesso)
             return;
         auto& [riga, colonna] = posizione_[q];
         if (riga >= grid.Rows())
             grid.Rows(riga + 1);
-        grid.testo(riga, colonna, FormattaNumero(sigla_, std::to_string(numero_)));
+        grid.testo(riga, colonna, FormattaNumero(sigla_, numero_));
         s_.UltimaSigla[q] = sigla_;
-        s_.UltimoNumero[q] = numero_;
+        s_.UltimoNumero[q] = aIntero16(val(numero_));
         if (evidenzia_)
             grid.sfondo(riga, colonna, kEvidenziato);
         if (++colonna == grid.Cols()) {
@@ -96,7 +96,7 @@ private:
     StatoConsole& s_;
     std::array<Posizione, kQuadranti> posizione_;
     std::string sigla_;
-    std::int16_t numero_ = 0;
+    std::string numero_; ///< narrowed to 16 bits only where it is shown
     bool evidenzia_ = false;
 };
 

@@ -19,8 +19,8 @@ constexpr std::array kEta = {"lblNumero3", "lblNumero2", "lblNumero1", "lblNumer
 
 /// Nine numbers need the setting and a board that has them: the standard one has six whatever the setting
 /// says.
-std::size_t quantiPosti(const StatoConsole& stato, std::int16_t index) {
-    return stato.Lumigrafo9Numeri && stato.frmVideata->controlli().cerca("lblNumero7", index) ? 9 : 6;
+std::size_t quantiPosti(const ContestoConsole& c, std::int16_t index) {
+    return c.stato.Lumigrafo9Numeri && c.frmVideata().controlli().cerca("lblNumero7", index) ? 9 : 6;
 }
 
 /// What is written in it is undone unless it was confirmed.
@@ -90,7 +90,7 @@ void Chiamata::chiama(std::int16_t q, const std::string& cella, const std::strin
                       const std::string& numero) {
     AggiornaUltimiChiamati(c_.stato, c_.ultimi, q, cella);
     MostraNumero(q, sigla, numero);
-    c_.stato.frmVideata->Blinka(q); // also for a number that was on the board already
+    c_.frmVideata().Blinka(q); // also for a number that was on the board already
     annuncia(q, sigla, numero);
     if (c_.stato.ScontrinoFiscale)
         c_.porte.fiscale.EmettiFiscale(sigla, numero);
@@ -104,7 +104,7 @@ void Chiamata::annuncia(std::int16_t q, const std::string& sigla, const std::str
 void Chiamata::MostraNumero(std::int16_t index, const std::string& sigla, const std::string& numero) {
     const std::string testo = testoVideata(sigla, numero);
     c_.controlli("lblNumero", index).Caption(testo);
-    c_.stato.frmVideata->Mostra();
+    c_.frmVideata().Mostra();
     if (giaInMostra(index, testo))
         return; // a number can't be on the board twice in one quadrant
     scorri(index, testo);
@@ -114,24 +114,24 @@ void Chiamata::MostraNumero(std::int16_t index, const std::string& sigla, const 
 }
 
 bool Chiamata::giaInMostra(std::int16_t index, const std::string& testo) const {
-    Controlli& videata = c_.stato.frmVideata->controlli();
-    for (std::size_t i = 0; i < quantiPosti(c_.stato, index); ++i)
+    Controlli& videata = c_.frmVideata().controlli();
+    for (std::size_t i = 0; i < quantiPosti(c_, index); ++i)
         if (videata(kEta[i], index).Caption() == testo)
             return true;
     return false;
 }
 
 void Chiamata::scorri(std::int16_t index, const std::string& testo) {
-    Controlli& videata = c_.stato.frmVideata->controlli();
-    for (std::size_t i = quantiPosti(c_.stato, index) - 1; i > 0; --i)
+    Controlli& videata = c_.frmVideata().controlli();
+    for (std::size_t i = quantiPosti(c_, index) - 1; i > 0; --i)
         videata(kEta[i], index).Caption(videata(kEta[i - 1], index).Caption());
     videata(kEta[0], index).Caption(testo);
 }
 
 void Chiamata::salvaVideata(std::int16_t index) {
-    Controlli& videata = c_.stato.frmVideata->controlli();
+    Controlli& videata = c_.frmVideata().controlli();
     const std::string sezione = std::to_string(index);
-    for (std::size_t n = 1; n <= quantiPosti(c_.stato, index); ++n) {
+    for (std::size_t n = 1; n <= quantiPosti(c_, index); ++n) {
         const std::string cifra = std::to_string(n);
         c_.videata.ScriviIni(sezione, "Numero" + cifra, videata("lblNumero" + cifra, index).Caption());
     }

@@ -8,6 +8,9 @@ namespace {
 
 constexpr std::size_t kLunghezza = 13;
 constexpr std::string_view kPrefisso = "599";
+constexpr const char* kErrato = "BarCode errato!";
+/// Numbers of orders have 16 bits; a code with a larger one is none of ours.
+constexpr double kNumeroMassimo = 32767;
 
 } // namespace
 
@@ -17,15 +20,19 @@ std::variant<CodiceScontrino, std::string> leggiCodice(std::string_view testo) {
         return "BarCode errato! Lunghezza errata.";
     // The whole text can be a number and its parts not: "5996501E00123" is one with an exponent.
     if (!codice.starts_with(kPrefisso) || !isNumeric(codice))
-        return "BarCode errato!";
+        return kErrato;
     CodiceScontrino letto;
     letto.categoria = aIntero16(val(codice.substr(5, 2)));
     const std::string lettera = codice.substr(3, 2);
     if (lettera != "00" && isNumeric(lettera))
         letto.sigla = std::string(1, static_cast<char>(val(lettera)));
     const std::string numero = trim(codice.substr(7, 5));
-    if (isNumeric(numero))
-        letto.numero = std::to_string(aIntero32(aDoppio(numero)));
+    if (!isNumeric(numero))
+        return letto;
+    const double valore = aDoppio(numero);
+    if (valore > kNumeroMassimo)
+        return kErrato;
+    letto.numero = std::to_string(aIntero16(valore));
     return letto;
 }
 

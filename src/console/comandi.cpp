@@ -9,8 +9,23 @@ namespace lumigrafo {
 
 using namespace std::chrono_literals;
 
-Comandi::Comandi(ContestoConsole& contesto)
-    : c_(contesto), timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })) {
+namespace {
+
+/// Where the board goes, as the last placement or the last board left it.
+Rettangolo postoSalvato(const FileIni& ini) {
+    const auto leggi = [&ini](const char* chiave, int predefinito) {
+        return Twip(aSingolo(ini.LeggiIni(kSezioneForm, chiave, predefinito)));
+    };
+    const Twip top = leggi("Top", 0);
+    const Twip left = leggi("Left", 0);
+    const Twip width = leggi("Width", 12000);
+    return {left, top, width, leggi("Height", 9000)};
+}
+
+} // namespace
+
+Comandi::Comandi(ContestoConsole& contesto, Timer& Timer1)
+    : c_(contesto), Timer1_(Timer1), timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })) {
     timerBottoni_->abilita(true);
 }
 
@@ -28,9 +43,9 @@ void Comandi::cmdAllarga() {
 
 void Comandi::cmdLumigrafo() {
     NascondiBottoni();
-    c_.stato.frmVideata->Mostra();
+    c_.frmVideata().Mostra();
     c_.cedi("cmdLumigrafo/1");
-    c_.stato.frmVideata->Riduci(c_.porte.ambiente.ridotta() || c_.stato.SoloAndroid);
+    c_.frmVideata().Riduci(c_.porte.ambiente.ridotta() || c_.stato.SoloAndroid);
     c_.finestra.Mostra();
     c_.fuocoSuTxtBarCode();
 }
@@ -48,10 +63,27 @@ void Comandi::cmdModalita() {
 void Comandi::cmdPulisciLumigrafo() {
     std::error_code ignorato; // no file is no failure
     std::filesystem::remove(c_.videata.file(), ignorato);
-    c_.stato.frmVideata->Scarica();
+    c_.frmVideata().Scarica();
     c_.cedi("cmdPulisciLumigrafo/prima");
     cmdLumigrafo();
     c_.cedi("cmdPulisciLumigrafo/dopo");
+    c_.fuocoSuTxtBarCode();
+}
+
+void Comandi::cmdPosizionaLumigrafo() {
+    NascondiBottoni();
+    FermaPrimoPiano(c_.porte.processi);
+    cmdLumigrafo(); // the board must exist
+    c_.frmVideata().Nascondi();
+    ignorandoGuasti([this] { c_.porte.desktop.estendi(); });
+    c_.porte.orologio.attendi(2000ms);
+    c_.finestra.Massimizza(); // the new display layout may have moved it
+    c_.cedi("cmdPosizionaLumigrafo/4");
+    c_.finestra.Ridisponi();
+    c_.porte.orologio.attendi(1000ms);
+    c_.porte.dialoghi.frmSagoma();
+    c_.frmVideata().Mostra();
+    c_.frmVideata().Posiziona(postoSalvato(c_.impostazioni));
     c_.fuocoSuTxtBarCode();
 }
 
@@ -61,6 +93,7 @@ void Comandi::cmdUscita() {
 }
 
 void Comandi::cmdRiavvia() {
+    Timer1_.abilita(false); // a rebuild without an archive would end the program before the new one is started
     c_.stato.Db->Close();
     c_.cedi("cmdRiavvia/1");
     c_.porte.processi.avvia(c_.porte.ambiente.eseguibile, {"RIAVVIO"}, StileFinestra::Ridotta);

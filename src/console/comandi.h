@@ -10,7 +10,8 @@ namespace lumigrafo {
 /// The hidden button panel, the mode switch, the showing of the board, and the clicks that open dialogs.
 class Comandi {
 public:
-    explicit Comandi(ContestoConsole& contesto);
+    /// `Timer1`: the periodic rebuild of the grids.
+    Comandi(ContestoConsole& contesto, Timer& Timer1);
 
     /// Hides the button panel.
     void NascondiBottoni();
@@ -19,12 +20,15 @@ public:
     void cmdLumigrafo();
     void cmdModalita();
     void cmdPulisciLumigrafo();
+    /// Looks for the second monitor and puts the board there. The waits block the console for three seconds.
+    void cmdPosizionaLumigrafo();
     void cmdUscita();
     void cmdRiavvia();
     void cmdSpegni();
 
 private:
     ContestoConsole& c_;
+    Timer& Timer1_;
     std::unique_ptr<Timer> timerBottoni_;
 };
 

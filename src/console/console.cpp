@@ -23,9 +23,8 @@ Console::Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole
     : stato_(stato), controlli_(kLayout_frmGestione), contesto_{stato_, controlli_, finestra, porte},
       caricatore_(contesto_), dispositore_(contesto_, caricatore_, std::move(fabbrica)),
       chiamata_(contesto_, caricatore_), scansione_(contesto_, chiamata_), ripetizione_(contesto_),
-      comandi_(contesto_),
       Timer1_(porte.timers.crea(32000ms, [this] { caricatore_.CaricaVideataInizio(true); })),
-      avvio_(contesto_, caricatore_, dispositore_, comandi_, *Timer1_) {
+      comandi_(contesto_, *Timer1_), avvio_(contesto_, caricatore_, dispositore_, comandi_, *Timer1_) {
     for (Griglia& grid : stato_.grid) {
         grid.altezzaMinima(kAltezzaRiga);
         for (int k = 0; k < grid.Cols(); ++k)
@@ -53,7 +52,7 @@ void Console::clic(std::string_view nome, int indice) {
         Azione{"cmdModalita", [](Console& c, int) { c.comandi_.cmdModalita(); }},
         Azione{"cmdPulisciLumigrafo", [](Console& c, int) { c.comandi_.cmdPulisciLumigrafo(); }},
         Azione{"cmdPosizionaLumigrafo",
-               [](Console& c, int) { c.contesto_.porte.dialoghi.PosizionaLumigrafo(); }},
+               [](Console& c, int) { c.comandi_.cmdPosizionaLumigrafo(); }},
         Azione{"cmdComunicazione", [](Console& c, int) { c.cmdComunicazione(); }},
         Azione{"cmdRipristina", [](Console& c, int) { c.cmdRipristina(); }},
         Azione{"cmdUscita", [](Console& c, int) { c.comandi_.cmdUscita(); }},
@@ -138,7 +137,7 @@ void Console::mnuImposta() {
     dialogo(contesto_, [this] {
         if (!contesto_.porte.dialoghi.ChiediPassword(""))
             return;
-        ignorandoGuasti([this] { stato_.frmVideata->Scarica(); });
+        ignorandoGuasti([this] { contesto_.frmVideata().Scarica(); });
         contesto_.porte.dialoghi.frmImposta();
     });
 }

@@ -55,8 +55,8 @@ private:
     Chiamata chiamata_;
     Scansione scansione_;
     Ripetizione ripetizione_;
-    Comandi comandi_;
     std::unique_ptr<Timer> Timer1_;
+    Comandi comandi_;
     Avvio avvio_;
 };
 

@@ -9,6 +9,8 @@
 #include "platform/alimentazione.h"
 #include "platform/ambiente.h"
 #include "platform/avvisi.h"
+#include "platform/desktop.h"
+#include "platform/guasto.h"
 #include "platform/orologio.h"
 #include "platform/pompa.h"
 #include "platform/processi.h"
@@ -33,6 +35,7 @@ struct PorteConsole {
     Processi& processi;
     Alimentazione& alimentazione;
     Sistema& sistema;
+    Desktop& desktop;
     Uscita& uscita;
     Dialoghi& dialoghi;
     Annunciatore& annunciatore;
@@ -51,6 +54,12 @@ struct ContestoConsole {
     FileIni videata{porte.ambiente.file(kFileVideata)};
     FileIni ultimi{porte.ambiente.file(kFileUltimiChiamati)};
 
+    /// The board in use. Throws Guasto 91 once the settings dialog has taken it out of memory.
+    [[nodiscard]] Videata& frmVideata() const {
+        if (!stato.frmVideata)
+            throw Guasto(guasti::kOggettoMancante);
+        return *stato.frmVideata;
+    }
     /// Lets pending events through.
     void cedi(std::string_view punto) { porte.pompa.cedi(punto); }
     /// A scanner needs this field: nearly every action gives it the focus back.

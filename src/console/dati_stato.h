@@ -14,6 +14,9 @@ public:
     [[nodiscard]] std::string Reparto(int quadrante) const override {
         return s_.Reparto.at(static_cast<std::size_t>(quadrante));
     }
+    [[nodiscard]] bool RepartoInUso(int quadrante) const override {
+        return s_.Categoria.at(static_cast<std::size_t>(quadrante)) != 0;
+    }
     [[nodiscard]] bool SoloAndroid() const override { return s_.SoloAndroid; }
     [[nodiscard]] std::int16_t VelocitaVocale() const override { return s_.VelocitaVocale; }
     [[nodiscard]] std::int16_t VolumeVocale() const override { return s_.VolumeVocale; }

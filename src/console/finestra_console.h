@@ -12,6 +12,9 @@ public:
     virtual void InPrimoPiano() = 0;
     /// Paints at once what has changed.
     virtual void Ridisegna() = 0;
+    virtual void Massimizza() = 0;
+    /// Lays its controls out anew for the size that it has now.
+    virtual void Ridisponi() = 0;
     /// The menu entry of the fiscal utilities.
     virtual void mnuFiscaleVisibile(bool visibile) = 0;
 };

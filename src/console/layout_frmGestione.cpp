@@ -62,15 +62,15 @@ constexpr std::array kControlli = {
     Descrizione{E, "lblDB", N, "", {60, 10200, 9000, 345}, kStato, S, kTestoQuieto, {}, "", true, "", "Archivio in uso"},
     Descrizione{B, "cmdAvanti", N, "", {0, 7380, 5835, 1425}, {"Arial Black", 30}, C, kBianco, rgb(46, 125, 80), "PROSSIMO NUMERO", false},
 
-    Descrizione{R, "fraNumeri", N, "", {795, 2835, 3870, 6000}, {}, S, kNero, kPannello, "", false},
-    Descrizione{E, "lblNumeroPrec", 7, "fraNumeri", {90,   90, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Ottavo numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 6, "fraNumeri", {90,  825, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Settimo numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 5, "fraNumeri", {90, 1560, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Sesto numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 4, "fraNumeri", {90, 2295, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Quinto numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 3, "fraNumeri", {90, 3030, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Quarto numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 2, "fraNumeri", {90, 3765, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Terzo numero precedente", true},
-    Descrizione{E, "lblNumeroPrec", 1, "fraNumeri", {90, 4500, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Penultimo numero", true},
-    Descrizione{E, "lblNumeroPrec", 0, "fraNumeri", {90, 5235, 3690, 675}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Ultimo numero", true},
+    Descrizione{R, "fraNumeri", N, "", {795, 2385, 3870, 6450}, {}, S, kNero, kPannello, "", false},
+    Descrizione{E, "lblNumeroPrec", 7, "fraNumeri", {90,   90, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Ottavo numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 6, "fraNumeri", {90,  885, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Settimo numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 5, "fraNumeri", {90, 1680, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Sesto numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 4, "fraNumeri", {90, 2475, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Quinto numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 3, "fraNumeri", {90, 3270, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Quarto numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 2, "fraNumeri", {90, 4065, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Terzo numero precedente", true},
+    Descrizione{E, "lblNumeroPrec", 1, "fraNumeri", {90, 4860, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Penultimo numero", true},
+    Descrizione{E, "lblNumeroPrec", 0, "fraNumeri", {90, 5655, 3690, 735}, kPrecedente, C, kBluNumero, kAzzurroNumero, "", true, "", "Ultimo numero", true},
 
     Descrizione{R, "fraBottoni", N, "", {9000, 1080, 9915, 5220}, {}, S, kNero, kPannello, "", false, "", "Comandi", true},
     Descrizione{B, "cmdChiudi",             N, "fraBottoni", {8730,  150, 1020, 1020}, kComando, C, kNero, {}, "", true, "chiudi", "Chiudi i comandi"},
@@ -85,7 +85,7 @@ constexpr std::array kControlli = {
     Descrizione{B, "cmdUscita",             N, "fraBottoni", {5040, 3930, 4725, 1020}, kComando, C, kNero, {}, "USCITA", true, "esci"},
 
     Descrizione{R, "fraMessaggio", N, "", {300, 1200, 18300, 9000}, {}, S, kNero, rgb(128, 255, 128), "", false},
-    Descrizione{Tipo::Immagine, "picOk", N, "fraMessaggio", {360, 360, 1800, 1800}, {}, S, kNero, {}, "", true, "ok", "Riuscito"},
+    Descrizione{Tipo::Immagine, "picOk", N, "fraMessaggio", {360, 360, 2400, 2400}, {}, S, kNero, {}, "", true, "ok", "Riuscito"},
     Descrizione{Tipo::Immagine, "picErrore", N, "fraMessaggio", {360, 3900, 2400, 2400}, {}, S, kNero, {}, "", false, "errore", "Errore"},
     Descrizione{E, "lblMessaggioBarCode", N, "fraMessaggio", {0, 2400, 18300, 5400}, {"Arial", 80, true}, C, kNero},
 };

@@ -21,14 +21,12 @@ Ripetizione::Ripetizione(ContestoConsole& contesto) : c_(contesto) {
 }
 
 void Ripetizione::annuncia(int quadrante, const std::string& testo) {
-    if (c_.stato.Vocale)
+    if (c_.stato.Vocale && !testo.empty())
         c_.porte.annunciatore.AccodaAnnuncio(testoAnnuncio(c_, quadrante, testo));
 }
 
 void Ripetizione::lblNumero(int quadrante) {
-    const std::string& testo = c_.controlli("lblNumero", quadrante).Caption();
-    if (!testo.empty())
-        annuncia(quadrante, testo);
+    annuncia(quadrante, c_.controlli("lblNumero", quadrante).Caption());
 }
 
 void Ripetizione::cmdNumero(int quadrante) {

@@ -3,7 +3,6 @@
 #include "console/codice_scontrino.h"
 #include "console/testi.h"
 #include "console/ultimi_chiamati.h"
-#include "platform/guasto.h"
 
 #include <chrono>
 
@@ -13,7 +12,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr const char* kCodiceErrato = "BarCode errato!";
 constexpr Colore kVerdeEsito = Colore(0x80FF80);
 constexpr Colore kRossoEsito = Colore(4079359);
 constexpr std::size_t kTestoLungo = 30; ///< characters; longer ones take the smaller type
@@ -95,18 +93,14 @@ bool Scansione::trovaCella(std::int16_t quadrante, const std::string& testo) {
 }
 
 void Scansione::chiama(std::int16_t quadrante, const std::string& sigla, const std::string& numero) {
-    std::string testo;
-    if (!ignorandoGuasti([&] { testo = FormattaNumero(sigla, numero); })) {
-        MostraEsitoBarCode(false, kCodiceErrato); // a number beyond any order's
-        return;
-    }
+    const std::string testo = FormattaNumero(sigla, numero);
     // The mode isn't asked for: a scan always calls. A number that isn't in the grid goes on the board all
     // the same, without strike-off, list entry and receipt.
     const bool trovato = trovaCella(quadrante, testo);
     if (trovato)
         AggiornaUltimiChiamati(c_.stato, c_.ultimi, quadrante, testo);
     chiamata_.MostraNumero(quadrante, sigla, numero);
-    c_.stato.frmVideata->Blinka(quadrante);
+    c_.frmVideata().Blinka(quadrante);
     if (trovato)
         chiamata_.AggiornaGridDB(sigla, numero, quadrante, -1, -1);
     MostraEsitoBarCode(true, c_.stato.Reparto[static_cast<std::size_t>(quadrante)] + "\r\n" + testo);

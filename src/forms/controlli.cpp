@@ -82,6 +82,9 @@ void Controllo::Figura(std::string nome) {
 void Controllo::Adatta(Adattamento modo) {
     cambia(adatta_, modo, Aspetto::Figura);
 }
+void Controllo::MargineFigura(Twip v) {
+    cambia(margineFigura_, v, Aspetto::Figura);
+}
 void Controllo::ZOrder() {
     annuncia(Aspetto::Ordine);
 }

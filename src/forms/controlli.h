@@ -87,11 +87,15 @@ public:
     void Sfumatura2(Colore c);
     /// Picture in the resources by its bare name, or a file's path, which has a separator; empty for none. A
     /// file is read at each assignment. A view throws Guasto 53 where there is no such file, 481 where it is
-    /// no picture.
+    /// no picture; both name it.
     [[nodiscard]] const std::string& Figura() const { return figura_; }
     void Figura(std::string nome);
     [[nodiscard]] Adattamento Adatta() const { return adatta_; }
     void Adatta(Adattamento modo);
+    /// What a stretched picture leaves free at the control's foot: twips of the screen, 15 to the pixel
+    /// however large the window is.
+    [[nodiscard]] Twip MargineFigura() const { return margineFigura_; }
+    void MargineFigura(Twip v);
     /// Brings the control in front of its siblings.
     void ZOrder();
     /// Gives it the keyboard focus, if it can take it now (visible and enabled, its window shown).
@@ -116,6 +120,7 @@ private:
     Colore sfumatura1_, sfumatura2_;
     std::string figura_;
     Adattamento adatta_ = Adattamento::Intera;
+    Twip margineFigura_;
 };
 
 /// All controls of one window, from its layout. Not copied: views and logic hold references.

@@ -14,8 +14,8 @@ public:
     virtual void frmInserisciNumeri() = 0;
     virtual void frmComunicazione() = 0;
     virtual void frmImposta() = 0;
-    /// Looks for the second monitor and puts the board there.
-    virtual void PosizionaLumigrafo() = 0;
+    /// Looks for the second monitor and keeps its place for the board.
+    virtual void frmSagoma() = 0;
     /// The fiscal component's own utilities.
     virtual void UtilitaFiscali() = 0;
     /// True if the right code was typed.

@@ -2,6 +2,7 @@
 
 #include "boards/crea_videata.h"
 #include "platform/finti/finti.h"
+#include "platform/finti/scelta_file_finta.h"
 #include "settings/ini/ini.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
@@ -50,9 +51,13 @@ private:
 class DatiConsoleFinti : public DatiConsole {
 public:
     std::array<std::string, 3> reparti{"CUCINA", "BAR", ""};
+    std::array<bool, 3> inUso{true, true, true};
     bool soloAndroid = false;
     [[nodiscard]] std::string Reparto(int quadrante) const override {
         return reparti.at(static_cast<std::size_t>(quadrante));
+    }
+    [[nodiscard]] bool RepartoInUso(int quadrante) const override {
+        return inUso.at(static_cast<std::size_t>(quadrante));
     }
     [[nodiscard]] bool SoloAndroid() const override { return soloAndroid; }
 };
@@ -68,11 +73,15 @@ public:
     TimersFinti timers;
     DatiConsoleFinti console;
     VistaFinta vista;
-    ServiziSchede servizi{ambiente, pompa, timers, console};
-    std::unique_ptr<Videata> videata =
-        creaVideata(TipoVideata::frmLumigrafo, servizi, [this](auto, EventiFinestra eventi) {
+    SceltaFileFinta sceltaFile;
+    ServiziSchede servizi{ambiente, pompa, timers, console, sceltaFile};
+    std::unique_ptr<Videata> videata;
+
+    explicit BancoVideata(TipoVideata tipo = TipoVideata::frmLumigrafo) {
+        videata = creaVideata(tipo, servizi, [this](auto, EventiFinestra eventi) {
             return std::make_unique<FinestraFinta>(vista, std::move(eventi));
         });
+    }
 
     void imposta(const char* chiave, const ValoreIni& valore) {
         impostazioni.ScriviIni(kSezioneImpostazioni, chiave, valore);

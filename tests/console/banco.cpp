@@ -9,11 +9,11 @@ Console& Banco::console() {
         return *console_;
     Timers& iTimers = timersVeri ? *timersVeri : timers;
     pompaConsole_ = std::make_unique<PompaConsole>(pompaVera ? *pompaVera : pompa, stato);
-    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, *pompaConsole_, iTimers, dati});
+    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, *pompaConsole_, iTimers, dati, sceltaFile});
     console_ = std::make_unique<Console>(
         stato,
         PorteConsole{ambiente, orologio, *pompaConsole_, iTimers, avvisi, messaggi, processi, alimentazione,
-                     sistema, uscita, dialoghi, annunciatore, fiscale, android, server},
+                     sistema, desktop, uscita, dialoghi, annunciatore, fiscale, android, server},
         finestraVera ? *finestraVera : finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board, whatever the type: it has the slots of all three quadrants.

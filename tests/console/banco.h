@@ -5,6 +5,7 @@
 #include "console/dati_stato.h"
 #include "console/pompa_console.h"
 #include "platform/finti/finti.h"
+#include "platform/finti/scelta_file_finta.h"
 #include "settings/finti/messaggi_finti.h"
 #include "tests/console/finti_console.h"
 #include "tests/sostegno/archivio_prova.h"
@@ -21,6 +22,10 @@ namespace lumigrafo::prova {
 /// `diario`.
 class Banco {
 public:
+    Banco() = default;
+    /// In a program folder that outlives it, with the archive that stands there.
+    explicit Banco(std::filesystem::path esistente) : cartella(std::move(esistente)) {}
+
     Diario diario;
     CartellaTemporanea cartella;
     Ambiente ambiente{cartella.percorso(), "/opt/lumigrafo/lumigrafo", ""};
@@ -39,6 +44,7 @@ public:
     ProcessiFinti processi{&diario};
     AlimentazioneFinta alimentazione;
     SistemaFinto sistema{&diario};
+    DesktopFinto desktop{&diario};
     UscitaFinta uscita{&diario};
     DialoghiFinti dialoghi{diario};
     AnnunciatoreFinto annunciatore{diario};
@@ -46,6 +52,7 @@ public:
     AndroidFinto android{diario};
     ServerFinto server{diario};
     FinestraFinta finestra{diario};
+    SceltaFileFinta sceltaFile;
     /// Real sides in the place of the fakes, for tests of the window; set before the first `console()`.
     Pompa* pompaVera = nullptr;
     Timers* timersVeri = nullptr;

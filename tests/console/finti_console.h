@@ -8,6 +8,7 @@
 #include "platform/finti/finti.h"
 #include "settings/dialoghi.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -34,7 +35,12 @@ public:
     void frmInserisciNumeri() override { annota("frmInserisciNumeri"); }
     void frmComunicazione() override { annota("frmComunicazione"); }
     void frmImposta() override { annota("frmImposta"); }
-    void PosizionaLumigrafo() override { annota("PosizionaLumigrafo"); }
+    std::function<void()> durante; ///< runs while the search for the second monitor is under way
+    void frmSagoma() override {
+        annota("frmSagoma");
+        if (durante)
+            durante();
+    }
     void UtilitaFiscali() override { annota("UtilitaFiscali"); }
     bool ChiediPassword(const std::string& richiesta) override {
         annota("password " + richiesta);
@@ -77,6 +83,8 @@ public:
     void Mostra() override { annota("console in vista"); }
     void InPrimoPiano() override { annota("console in primo piano"); }
     void Ridisegna() override { annota("ridisegna"); }
+    void Massimizza() override { annota("massimizza"); }
+    void Ridisponi() override { annota("ridisponi"); }
     void mnuFiscaleVisibile(bool visibile) override {
         mnuFiscale = visibile;
         annota(visibile ? "mnuFiscale" : "mnuFiscale nascosto");
@@ -98,7 +106,10 @@ public:
     [[nodiscard]] bool ridotta() const override { return ridotta_; }
     void titolo(const std::string&) override {}
     [[nodiscard]] Rettangolo posto() const override { return posto_; }
-    void posto(const Rettangolo& rett) override { posto_ = rett; }
+    void posto(const Rettangolo& rett) override {
+        posto_ = rett;
+        annota("videata a " + std::to_string(static_cast<int>(rett.left.v)));
+    }
 
 private:
     bool ridotta_ = false;

@@ -28,8 +28,8 @@ TEST(Avvio, TheLoadGoesStepByStep) {
     EXPECT_THAT(b.diario,
                 ElementsAre("istanza", "ScegliVoce", "attendi 400", "cedi CaricaVideataInizio/9",
                             "cedi Form_Load/12", "cedi Form_Load/16", "splash", "cedi Form_Load/18",
-                            "videata caricata", "cedi Videata/Load", "videata normale", "videata in vista",
-                            "cedi cmdLumigrafo/1", "videata normale", "console in vista",
+                            "videata caricata", "cedi Videata/Load", "videata normale", "videata a 0",
+                            "videata in vista", "cedi cmdLumigrafo/1", "videata normale", "console in vista",
                             "cedi Form_Load/18 mostrato", "android -1", "mnuFiscale nascosto"));
     EXPECT_EQ(b.console().controlli()("lblDB").Caption(), percorso(b));
     EXPECT_TRUE(std::filesystem::is_empty(b.cartella.percorso() / "log.vocal.txt"));
@@ -43,7 +43,7 @@ TEST(Avvio, FirstActivationHappensOnceAndTestsTheStoredTruthValue) {
         b.imposta("Posiziona", valore);
         b.caricata();
         b.console().attiva();
-        EXPECT_EQ(b.diario.front() == "PosizionaLumigrafo", posiziona) << valore;
+        EXPECT_EQ(b.diario.front() == "termina PrimoPiano.exe", posiziona) << valore;
         EXPECT_EQ(b.diario.back(), "console in primo piano");
         const auto righe = b.diario.size();
         b.console().attiva();

@@ -44,7 +44,6 @@ TEST(Bottoni, DialogsStopTheCompanionFirst) {
         {"cmdComunicazione", 4, false, {"messaggio Non possibile con sistema Avanti Prossimo"}},
         {"cmdRipristina", 0, false, con("frmRipristina")},
         {"cmdUscita", 0, false, con("frmSpegni")},
-        {"cmdPosizionaLumigrafo", 0, false, {"PosizionaLumigrafo"}},
     };
     for (const Caso& caso : casi) {
         Banco b;
@@ -64,6 +63,21 @@ TEST(Bottoni, TheStationWithTheArchiveFillsNumbersInsteadOfRestoring) {
     b.console().clic("cmdRipristina", kSenzaIndice);
     EXPECT_THAT(b.diario, Contains("frmInserisciNumeri"));
     EXPECT_THAT(b.celle(0), Contains("A  1")); // the grids are rebuilt after it
+}
+
+TEST(Bottoni, PlacingTheBoardGoesStepByStep) {
+    for (const bool capace : {true, false}) { // a machine that can't extend its desktop goes on as it is
+        Banco b;
+        b.caricata();
+        b.desktop.capace = capace;
+        b.dialoghi.durante = [&b] { b.impostazioni.ScriviIni(kSezioneForm, "Left", -19200); };
+        b.console().clic("cmdPosizionaLumigrafo", kSenzaIndice);
+        EXPECT_THAT(b.diario,
+                    ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "videata in vista",
+                                "cedi cmdLumigrafo/1", "videata normale", "console in vista", "videata nascosta",
+                                "estendi", "attendi 2000", "massimizza", "cedi cmdPosizionaLumigrafo/4", "ridisponi",
+                                "attendi 1000", "frmSagoma", "videata in vista", "videata a -19200"));
+    }
 }
 
 TEST(Bottoni, MenusAskForThePasswordFirst) {

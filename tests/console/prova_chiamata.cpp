@@ -202,6 +202,9 @@ TEST_F(Chiamate, AnnouncementsAreRepeatedFromTheLabelsAndTheList) {
     b.console().clic("lblNumeroPrec", 2);
     EXPECT_EQ(b.diario.back(), "voce Bar A  1");
     EXPECT_FALSE(c("fraNumeri").Visible());
+    b.console().clic("cmdNumero", 1);
+    b.console().clic("lblNumeroPrec", 7); // nothing was called so long ago
+    EXPECT_EQ(b.diario.back(), "voce Bar A  1");
     b.console().clic("cmdNumero", 0);
     b.timers.avanza(3s);
     EXPECT_FALSE(c("fraNumeri").Visible());

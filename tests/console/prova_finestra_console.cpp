@@ -60,7 +60,7 @@ protected:
         QCoreApplication::postEvent(chi, new QKeyEvent(QEvent::KeyRelease, codice, Qt::NoModifier, testo));
     }
     void accodaCodice(int numero) {
-        char codice[16];
+        char codice[24];
         std::snprintf(codice, sizeof codice, "5996501%05d0\r", numero);
         for (const char* c = codice; *c; ++c)
             accoda(*c);

@@ -3,6 +3,7 @@
 #include "platform/qt/schermi_qt.h"
 
 #include <QAbstractButton>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -55,6 +56,19 @@ TEST(Avvisi, DiconoEsattamenteCioCheDevono) {
                            premi(box, "OK");
                        }),
               Risposta::Ok);
+}
+
+TEST(Avvisi, UnTestoLungoSiLeggeTutto) {
+    const Avviso lungo{"Errore di collegamento al database /srv/cassa/condivisa/della/festa/archivio.mdb\r\n\r\nPING SU "
+                       "192.168.1.10 NON RIUSCITO",
+                       "", Icona::Esclamazione, Bottoni::Ok};
+    rispondi(lungo, [](QMessageBox& box) {
+        const auto* testo = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        ASSERT_NE(testo, nullptr);
+        EXPECT_GE(testo->width(), testo->sizeHint().width());
+        EXPECT_GE(testo->height(), testo->heightForWidth(testo->width()));
+        premi(box, "OK");
+    });
 }
 
 TEST(Schermi, UnoSoloEPrimarioEInTwip) {

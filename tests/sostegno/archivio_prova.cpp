@@ -9,8 +9,6 @@ namespace lumigrafo::prova {
 
 namespace {
 
-constexpr const char* kData = "20260315";
-
 std::string citata(const std::optional<std::string>& testo) {
     return testo ? "'" + *testo + "'" : "NULL";
 }
@@ -18,12 +16,15 @@ std::string citata(const std::optional<std::string>& testo) {
 } // namespace
 
 ArchivioProva::ArchivioProva(std::filesystem::path file) {
-    creaArchivio(file);
+    const bool nuovo = !std::filesystem::exists(file);
+    if (nuovo)
+        creaArchivio(file);
     if (sqlite3_open(file.c_str(), &db_) != SQLITE_OK)
         throw std::runtime_error("no archive at " + file.string());
     sqlite3_busy_timeout(db_, 5000);
     esegui("PRAGMA synchronous = OFF"); // a test's own rows needn't outlive a power cut
-    esegui("INSERT INTO Categorie (Codice, Descrizione) VALUES (1, 'Cucina'), (2, 'Bar'), (3, 'Pizzeria')");
+    if (nuovo)
+        esegui("INSERT INTO Categorie (Codice, Descrizione) VALUES (1, 'Cucina'), (2, 'Bar'), (3, 'Pizzeria')");
 }
 
 ArchivioProva::~ArchivioProva() {
@@ -43,11 +44,11 @@ void ArchivioProva::ordine(const std::optional<std::string>& sigla, int numero,
         esegui("INSERT INTO DettaglioLumigrafo (Sigla, Numero, CATEGORIA, SERVITO, MinutiServito) " + riga +
                std::to_string(codice) + ", 0, 0)");
         esegui("INSERT INTO Dettaglio (Sigla, Numero, DataCompetenza, SERVITO, MinutiServito) " + riga +
-               kData + ", 0, 0)");
+               dataCompetenza + ", 0, 0)");
     }
     esegui("INSERT INTO Lumigrafo (" + colonne + ") VALUES (" + valori + ")");
     esegui("INSERT INTO ScontriniEmessi (Sigla, Numero, DataCompetenza, Servito, Stornato) VALUES (" +
-           chiave + ", " + kData + ", 0, 0)");
+           chiave + ", " + dataCompetenza + ", 0, 0)");
     esegui("COMMIT");
 }
 

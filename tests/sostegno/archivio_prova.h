@@ -13,14 +13,14 @@ namespace lumigrafo::prova {
 /// An archive for a test, written and read through a connection of its own, as another station would.
 class ArchivioProva {
 public:
-    /// Makes a new archive with the categories 1 "Cucina", 2 "Bar", 3 "Pizzeria".
+    /// Makes a new archive with the categories 1 "Cucina", 2 "Bar", 3 "Pizzeria"; one that is there stays.
     explicit ArchivioProva(std::filesystem::path file);
     ~ArchivioProva();
     ArchivioProva(const ArchivioProva&) = delete;
     ArchivioProva& operator=(const ArchivioProva&) = delete;
 
-    /// Adds an order to the queue with its detail lines and its receipt of 15 March 2026: categories and
-    /// pieces. No letter: null.
+    /// Adds an order to the queue with its detail lines and its receipt of the business date:
+    /// categories and pieces. No letter: null.
     void ordine(const std::optional<std::string>& sigla, int numero,
                 const std::vector<std::pair<int, int>>& categorie, bool evidenzia = false);
     void esegui(const std::string& sql);
@@ -28,6 +28,8 @@ public:
     [[nodiscard]] std::string leggi(const std::string& sql);
     /// "A12 B7": letters and numbers in the queue, in order.
     [[nodiscard]] std::string coda();
+
+    std::string dataCompetenza = "20260315"; ///< of new orders, yyyymmdd
 
 private:
     sqlite3* db_ = nullptr;

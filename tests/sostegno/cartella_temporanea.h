@@ -4,12 +4,15 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace lumigrafo::prova {
 
-/// A folder of its own for one test, gone with it.
+/// A folder of its own for one test, gone with it; or one that is there already and stays.
 class CartellaTemporanea {
 public:
+    explicit CartellaTemporanea(std::filesystem::path esistente)
+        : percorso_(std::move(esistente)), resta_(true) {}
     CartellaTemporanea() {
         std::string modello = (std::filesystem::temp_directory_path() / "lumigrafo-XXXXXX").string();
         if (!::mkdtemp(modello.data()))
@@ -17,6 +20,8 @@ public:
         percorso_ = modello;
     }
     ~CartellaTemporanea() {
+        if (resta_)
+            return;
         std::error_code ignorato;
         std::filesystem::permissions(percorso_, std::filesystem::perms::owner_all, ignorato);
         std::filesystem::remove_all(percorso_, ignorato);
@@ -27,6 +32,7 @@ public:
 
 private:
     std::filesystem::path percorso_;
+    bool resta_ = false;
 };
 
 } // namespace lumigrafo::prova

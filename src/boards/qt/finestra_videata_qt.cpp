@@ -39,6 +39,7 @@ FinestraVideataQt::FinestraVideataQt(const std::shared_ptr<Controlli>& controlli
     finestra_->alClic(
         [clic = std::move(eventi.clic)](const Controllo& c) { clic(c.disegno().nome, c.disegno().indice); });
     finestra_->allaAttivazione(std::move(eventi.attivata));
+    finestra_->alDoppioClicSfondo(std::move(eventi.doppioClicSfondo));
     finestra_->allaChiusura([chiusa = std::move(eventi.chiusa)] {
         chiusa();
         return true;
@@ -48,6 +49,7 @@ FinestraVideataQt::FinestraVideataQt(const std::shared_ptr<Controlli>& controlli
 FinestraVideataQt::~FinestraVideataQt() {
     finestra_->alClic({});
     finestra_->allaAttivazione({});
+    finestra_->alDoppioClicSfondo({});
     finestra_->allaChiusura({});
     finestra_->hide();
     finestra_->deleteLater();

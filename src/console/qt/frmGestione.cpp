@@ -37,6 +37,9 @@ void frmGestione::collega(Console& console) {
     console_ = &console;
     contenuto_ = std::make_unique<Finestra>(console.controlli(), this);
     contenuto_->setObjectName(QStringLiteral("contenuto")); // the window itself bears the layout's name
+    // Unmaximised, its content has the design's size. Qt's own first size is a few pixels: everything would
+    // be laid out, and its fonts loaded, for nothing.
+    resize(contenuto_->width(), contenuto_->height() + menuBar()->sizeHint().height());
     setCentralWidget(contenuto_.get());
     contenuto_->alClic([this](const Controllo& c) { console_->clic(c.disegno().nome, c.disegno().indice); });
     contenuto_->alTasto([this](const QKeyEvent& evento) { return tasto(evento); });
@@ -81,6 +84,14 @@ void frmGestione::InPrimoPiano() {
 void frmGestione::Ridisegna() {
     // Paints what is due, and no more: a plain repaint would leave out what an opaque child covers.
     QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+}
+
+void frmGestione::Massimizza() {
+    setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void frmGestione::Ridisponi() {
+    contenuto_->ridisponi();
 }
 
 void frmGestione::mnuFiscaleVisibile(bool visibile) {

@@ -25,6 +25,8 @@ public:
     void Mostra() override;
     void InPrimoPiano() override;
     void Ridisegna() override;
+    void Massimizza() override;
+    void Ridisponi() override;
     void mnuFiscaleVisibile(bool visibile) override;
 
 private:

@@ -41,7 +41,7 @@ void BottoneWidget::mostra(const Controllo& c, const Resa& resa) {
 
 void BottoneWidget::carica(const Controllo& c) {
     update();
-    figura_.carica(c.Figura());
+    figura_.carica(c.Figura(), {size(), Adattamento::Intera, devicePixelRatioF()});
 }
 
 BottoneWidget::Aree BottoneWidget::aree() const {
@@ -86,9 +86,10 @@ void BottoneWidget::paintEvent(QPaintEvent*) {
     figura_.disegna(p, figura, Adattamento::Intera);
 }
 
+/// The space bar alone presses it. A scanner ends each code with Return: it must not press whatever button has the focus.
 void BottoneWidget::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
-        click();
+        evento->ignore();
     else
         QAbstractButton::keyPressEvent(evento);
 }

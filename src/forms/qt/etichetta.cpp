@@ -2,7 +2,10 @@
 
 #include "platform/qt/aspetto.h"
 
+#include <QFontMetrics>
 #include <QPainter>
+
+#include <algorithm>
 
 namespace lumigrafo {
 
@@ -14,11 +17,16 @@ void EtichettaWidget::mostra(const Controllo& c, const Resa& resa) {
     tinta_ = c.ForeColor();
     sfondo_ = c.BackColor();
     raggio_ = resa.raggio;
+    if (c.disegno().inAlto)
+        altezza_ = QFontMetrics(resa.carattere).height();
     update();
 }
 
 QRect EtichettaWidget::area() const {
-    return sfondo_ ? rect().adjusted(raggio_, 0, -raggio_, 0) : rect();
+    QRect dentro = sfondo_ ? rect().adjusted(raggio_, 0, -raggio_, 0) : rect();
+    dentro.setHeight(std::min(dentro.height(), altezza_));
+    const QWidget* padre = parentWidget();
+    return padre ? dentro.intersected({-pos(), padre->size()}) : dentro;
 }
 
 void EtichettaWidget::paintEvent(QPaintEvent*) {

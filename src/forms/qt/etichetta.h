@@ -11,7 +11,9 @@ public:
     using Superficie::Superficie;
     void mostra(const Controllo& controllo, const Resa& resa) override;
     [[nodiscard]] const TestoAdattato& testo() const { return testo_; }
-    /// Where the text goes: all of the label, less a margin where a coloured edge would touch the text.
+    /// Where the text goes: all of the label that its container lets see, less a margin where a coloured edge
+    /// would touch the text. A label that stands at the top keeps to the height of a line at its own size, so
+    /// that one which shrank stays beside its neighbours.
     [[nodiscard]] QRect area() const;
 
 protected:
@@ -22,6 +24,7 @@ private:
     Colore tinta_;
     std::optional<Colore> sfondo_;
     int raggio_ = 0;
+    int altezza_ = QWIDGETSIZE_MAX; ///< of the text's area, at most
 };
 
 } // namespace lumigrafo

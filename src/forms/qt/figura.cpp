@@ -1,9 +1,6 @@
 #include "forms/qt/figura.h"
 
-#include "platform/guasto.h"
-
 #include <QFile>
-#include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QtDebug>
@@ -13,14 +10,14 @@ namespace lumigrafo {
 Figura::Figura() = default;
 Figura::~Figura() = default;
 
-void Figura::carica(const std::string& nome) {
+void Figura::carica(const std::string& nome, const Inquadratura& inquadratura) {
     disegno_.reset();
-    immagine_ = {};
+    file_.reset();
     misuraPronta_ = {};
     if (nome.empty())
         return;
     if (nome.find_first_of("/\\") != std::string::npos) {
-        caricaFile(QString::fromStdString(nome));
+        file_.emplace(QString::fromStdString(nome), inquadratura);
         return;
     }
     const QString risorsa = QStringLiteral(":/figure/%1.svg").arg(QString::fromStdString(nome));
@@ -32,26 +29,20 @@ void Figura::carica(const std::string& nome) {
     disegno_->setAspectRatioMode(Qt::IgnoreAspectRatio);
 }
 
-void Figura::caricaFile(const QString& percorso) {
-    if (!QFile::exists(percorso))
-        throw Guasto(guasti::kFileNonTrovato);
-    QImageReader lettore(percorso);
-    lettore.setDecideFormatFromContent(true);
-    lettore.setAutoTransform(true);
-    immagine_ = lettore.read();
-    if (immagine_.isNull())
-        throw Guasto(guasti::kImmagine);
-}
-
 bool Figura::vuota() const {
-    return !disegno_ && immagine_.isNull();
+    return !disegno_ && !file_;
 }
 
-QSize Figura::misuraPropria() const {
-    return disegno_ ? disegno_->defaultSize() : immagine_.size();
+QSize Figura::misura(QSize area, Adattamento modo) const {
+    if (modo == Adattamento::Stirata)
+        return area;
+    const QSize propria = disegno_ ? disegno_->defaultSize() : file_->misura();
+    if (modo == Adattamento::Intera)
+        return propria.scaled(area, Qt::KeepAspectRatio);
+    return disegno_ ? propria : file_->immagine().size();
 }
 
-QPixmap Figura::pronta(QSize misura, double densita) const {
+const QPixmap& Figura::pronta(QSize misura, double densita) {
     const QSize fisica = misura * densita;
     if (misuraPronta_ == fisica)
         return pronta_;
@@ -62,27 +53,26 @@ QPixmap Figura::pronta(QSize misura, double densita) const {
         QPainter p(&pronta_);
         disegno_->render(&p, QRectF(QPointF(0, 0), fisica));
     } else {
-        pronta_ =
-            QPixmap::fromImage(immagine_.scaled(fisica, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        pronta_ = QPixmap::fromImage(
+            file_->immagine().scaled(fisica, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     return pronta_;
 }
 
-void Figura::disegna(QPainter& pennello, const QRect& area, Adattamento modo) const {
+void Figura::disegna(QPainter& pennello, const QRect& area, Adattamento modo) {
     if (vuota() || area.isEmpty())
         return;
-    QSize misura = misuraPropria();
-    QPoint angolo = area.topLeft();
-    if (modo == Adattamento::Stirata)
-        misura = area.size();
-    if (modo == Adattamento::Intera) {
-        misura.scale(area.size(), Qt::KeepAspectRatio);
-        angolo += QPoint((area.width() - misura.width()) / 2, (area.height() - misura.height()) / 2);
-    }
-    if (misura.isEmpty())
+    const double densita = pennello.device()->devicePixelRatioF();
+    if (file_ && file_->adegua({area.size(), modo, densita}))
+        misuraPronta_ = {};
+    const QSize grande = misura(area.size(), modo);
+    if (grande.isEmpty())
         return;
+    QRect dove(area.topLeft(), grande);
+    if (modo == Adattamento::Intera)
+        dove.moveCenter(area.center());
     pennello.setClipRect(area);
-    pennello.drawPixmap(QRect(angolo, misura), pronta(misura, pennello.device()->devicePixelRatioF()));
+    pennello.drawPixmap(dove, pronta(grande, densita));
 }
 
 } // namespace lumigrafo

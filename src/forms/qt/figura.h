@@ -1,11 +1,11 @@
 #pragma once
 
-#include "forms/controlli.h"
+#include "forms/qt/file_figura.h"
 
 #include <QPixmap>
-#include <QString>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 class QPainter;
@@ -18,21 +18,21 @@ class Figura {
 public:
     Figura();
     ~Figura();
-    /// A name with a separator is a file's path. Throws Guasto 53 where there is no such file, 481 where it
-    /// is no picture. A drawing that the resources lack leaves the figure empty.
-    void carica(const std::string& nome);
+    /// A name with a separator is a file's path; it is read at once, as large as `inquadratura` needs it.
+    /// Throws Guasto 53 where there is no such file, 481 where it is no picture, with its path in the
+    /// description; the figure is empty then. A drawing that the resources lack leaves it empty too.
+    void carica(const std::string& nome, const Inquadratura& inquadratura);
     [[nodiscard]] bool vuota() const;
-    void disegna(QPainter& pennello, const QRect& area, Adattamento modo) const;
+    void disegna(QPainter& pennello, const QRect& area, Adattamento modo);
 
 private:
-    [[nodiscard]] QPixmap pronta(QSize misura, double densita) const;
-    [[nodiscard]] QSize misuraPropria() const;
-    void caricaFile(const QString& percorso);
+    [[nodiscard]] const QPixmap& pronta(QSize misura, double densita);
+    [[nodiscard]] QSize misura(QSize area, Adattamento modo) const;
 
     std::unique_ptr<QSvgRenderer> disegno_;
-    QImage immagine_;
-    mutable QPixmap pronta_; ///< as last painted
-    mutable QSize misuraPronta_;
+    std::optional<FileFigura> file_;
+    QPixmap pronta_; ///< as last painted
+    QSize misuraPronta_;
 };
 
 } // namespace lumigrafo

@@ -5,7 +5,7 @@
 #include "platform/qt/aspetto.h"
 #include "platform/qt/caratteri.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -142,10 +142,20 @@ void Finestra::cambiato(const Controllo& c, Aspetto aspetto) {
         break;
     case Aspetto::Fuoco:
         if (w.isEnabled() && w.isVisible())
-            w.setFocus(Qt::OtherFocusReason);
+            prendiFuoco(w);
         break;
     default:
         break;
+    }
+}
+
+/// The focus of a window that lies behind another is of no use: on a station with one monitor the board stands over
+/// the console.
+void Finestra::prendiFuoco(QWidget& w) {
+    w.setFocus(Qt::OtherFocusReason);
+    if (!window()->isActiveWindow() && !QApplication::activeModalWidget()) {
+        window()->raise();
+        window()->activateWindow();
     }
 }
 

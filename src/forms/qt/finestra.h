@@ -39,6 +39,8 @@ public:
     /// The grid shows that model from now on; the model must outlive the window. Throws Guasto 340 where the
     /// window has no such grid.
     GrigliaWidget& collegaGriglia(std::string_view nome, int indice, Griglia& griglia);
+    /// Lays all controls out anew for the present size.
+    void ridisponi() { disponi(); }
     /// The window's own back colour.
     void sfondo(Colore c);
 
@@ -70,6 +72,7 @@ private:
     void disponi();
     void colloca(const Controllo& c, const Costruito& fatto, const Scala& scala);
     void mostra(const Controllo& c, const Costruito& fatto, const Scala& scala);
+    void prendiFuoco(QWidget& w);
     void nomina(const Controllo& c, QWidget& w) const;
     [[nodiscard]] Scala scala() const;
     bool tasto(const QKeyEvent& evento);

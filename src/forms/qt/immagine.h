@@ -17,8 +17,11 @@ protected:
     void paintEvent(QPaintEvent* evento) override;
 
 private:
+    [[nodiscard]] QRect area() const;
+
     Figura figura_;
     Adattamento modo_ = Adattamento::Intera;
+    int margine_ = 0; ///< pixels left free at the foot
     std::optional<Colore> sfondo_;
 };
 

@@ -1,5 +1,7 @@
 #include "platform/finti/finti.h"
 
+#include "platform/guasto.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -133,6 +135,16 @@ bool SistemaFinto::eco(const std::string& indirizzo) {
     annota(diario_, "eco " + indirizzo);
     echi.push_back(indirizzo);
     return risponde;
+}
+
+void DesktopFinto::estendi() {
+    annota(diario_, "estendi");
+    if (!capace)
+        throw Guasto(guasti::kFileNonTrovato);
+}
+
+void DesktopFinto::apriImpostazioni(const std::filesystem::path& comandi) {
+    annota(diario_, "impostazioni schermo " + comandi.filename().string());
 }
 
 void UscitaFinta::termina(int codice) {

@@ -2,6 +2,7 @@
 
 #include "platform/alimentazione.h"
 #include "platform/avvisi.h"
+#include "platform/desktop.h"
 #include "platform/orologio.h"
 #include "platform/pompa.h"
 #include "platform/processi.h"
@@ -138,6 +139,18 @@ class UscitaFinta : public Uscita {
 public:
     explicit UscitaFinta(Diario* diario = nullptr) : diario_(diario) {}
     [[noreturn]] void termina(int codice) override;
+
+private:
+    Diario* diario_;
+};
+
+class DesktopFinto : public Desktop {
+public:
+    explicit DesktopFinto(Diario* diario = nullptr) : diario_(diario) {}
+    bool capace = true; ///< false: no program for it on this machine
+
+    void estendi() override;
+    void apriImpostazioni(const std::filesystem::path& comandi) override;
 
 private:
     Diario* diario_;

@@ -4,8 +4,11 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIcon>
+#include <QPainter>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QPixmap>
+#include <QProxyStyle>
 
 namespace lumigrafo::aspetto {
 
@@ -25,7 +28,6 @@ QLineEdit { border: 1px solid #becad5; border-radius: 6px;
             padding: 2px 8px; selection-background-color: #2f6da8; }
 QLineEdit:focus { border: 2px solid #2f6da8; padding: 1px 7px; }
 QMessageBox QLabel { font-size: 18px; padding: 10px; }
-QMessageBox QLabel#qt_msgbox_label { min-width: 260px; }
 QMessageBox QPushButton { font-size: 18px; min-width: 110px; min-height: 40px; }
 QMenuBar { background: #e9edf1; padding: 2px; }
 QMenuBar::item { padding: 10px 16px; border-radius: 6px; background: transparent; }
@@ -53,10 +55,34 @@ QPalette tavolozza() {
     return p;
 }
 
+QIcon freccia() {
+    QPixmap figura(16, 16);
+    figura.fill(Qt::transparent);
+    QPainter p(&figura);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(kInchiostro, 2));
+    for (const double x : {3.0, 8.0})
+        p.drawPolyline(QPolygonF{{x, 4}, {x + 4, 8}, {x, 12}});
+    return figura;
+}
+
+/// Qt's plain style. Each menu bar asks it for the arrow of one that is too narrow, a picture file: to read
+/// it, all of Qt's picture formats would be loaded at the start and stay in memory.
+class Stile final : public QProxyStyle {
+public:
+    Stile() : QProxyStyle(QStringLiteral("Fusion")) {}
+    [[nodiscard]] QIcon standardIcon(StandardPixmap quale, const QStyleOption* opzione,
+                                     const QWidget* widget) const override {
+        return quale == SP_ToolBarHorizontalExtensionButton
+                   ? freccia()
+                   : QProxyStyle::standardIcon(quale, opzione, widget);
+    }
+};
+
 } // namespace
 
 void applica(QApplication& applicazione) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Stile);
     QApplication::setPalette(tavolozza());
     QApplication::setFont(carattere(QStringLiteral("Arial"), kCaratterePixel));
     applicazione.setStyleSheet(QString::fromUtf8(kFoglio));

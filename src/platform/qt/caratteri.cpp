@@ -47,15 +47,25 @@ const std::initializer_list<Ripiego> kRipieghi{
     {"Comic Sans MS", {{"Comic Neue"}, {"Liberation Sans"}}},
 };
 
+/// Looked up in the list of all: asked for a single name, the font system works out what it would put in its
+/// place, which is slow.
+bool installato(const QString& nome) {
+    static const QStringList famiglie = QFontDatabase::families();
+    return std::any_of(famiglie.begin(), famiglie.end(), [&](const QString& famiglia) {
+        return famiglia.compare(nome, Qt::CaseInsensitive) == 0 ||
+               famiglia.startsWith(nome + QLatin1String(" ["), Qt::CaseInsensitive); // one of several makers
+    });
+}
+
 std::optional<Scelta> primoInstallato(const std::initializer_list<Candidato>& candidati) {
     for (const Candidato& c : candidati)
-        if (const auto famiglia = QString::fromLatin1(c.famiglia); QFontDatabase::hasFamily(famiglia))
+        if (const auto famiglia = QString::fromLatin1(c.famiglia); installato(famiglia))
             return Scelta{famiglia, c.peso};
     return std::nullopt;
 }
 
 Scelta scegli(const QString& nome) {
-    if (QFontDatabase::hasFamily(nome))
+    if (installato(nome))
         return {nome, {}};
     const auto* ripiego = std::find_if(kRipieghi.begin(), kRipieghi.end(), [&](const Ripiego& r) {
         return nome.compare(QLatin1String(r.nome), Qt::CaseInsensitive) == 0;

@@ -39,6 +39,7 @@ void FinestraModale::esegui(Finestra& finestra) {
         ciclo_.quit();
         return true;
     });
+    finestra.setFocus(); // no control has it: a scanner's keys must not press a button
     finestra.show();
     finestra.raise();
     finestra.activateWindow();

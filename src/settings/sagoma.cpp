@@ -1,0 +1,81 @@
+#include "settings/sagoma.h"
+
+#include "boards/modulo_monitor.h"
+#include "forms/verifica.h"
+#include "platform/guasto.h"
+
+#include <array>
+#include <fstream>
+
+namespace lumigrafo {
+
+namespace {
+
+constexpr Twip kLarghezza = 4560;
+constexpr Twip kAltezza = 3030;
+/// How far beyond the console's edges the two tries go.
+constexpr Twip kOltreDestra = 1000;
+constexpr Twip kOltreSinistra = 100;
+
+// clang-format off
+constexpr std::array<Descrizione, 1> kControlli{{
+    {.tipo = Tipo::Etichetta, .nome = "Label", .padre = "", .rett = {135, 210, 3975, 585},
+     .carattere = {"Arial", 20.25}, .caption = "Posizionamento ..."},
+}};
+// clang-format on
+static_assert(layoutValido(kControlli));
+
+const Layout kLayoutSagoma{"frmSagoma", "", kLarghezza, kAltezza, rgb(243, 245, 247), kControlli};
+
+} // namespace
+
+void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop) {
+    const auto file = ambiente.file(kFileImpoSchermo);
+    if (!(std::ofstream(file, std::ios::trunc) << "control.exe desk.cpl,@0,3\r\n").flush())
+        throw Guasto(guasti::kAccesso);
+    desktop.apriImpostazioni(file);
+}
+
+Sagoma::Sagoma(const ServiziSagoma& servizi, const Rettangolo& console)
+    : s_(servizi), console_(console), posto_{console.left, console.top, kLarghezza, kAltezza},
+      controlli_(kLayoutSagoma) {}
+
+void Sagoma::sposta(const Rettangolo& posto) {
+    posto_ = posto;
+    if (mossa_)
+        mossa_();
+}
+
+bool Sagoma::suUnMonitor() const {
+    return monitorDi(s_.schermi, posto_).has_value();
+}
+
+void Sagoma::attiva() {
+    s_.pompa.cedi("frmSagoma/1");
+    // The console is taken to fill its screen: its width, from where it stands, leads past the right edge.
+    sposta({console_.left + console_.width + kOltreDestra, posto_.top, kLarghezza, kAltezza});
+    if (!suUnMonitor())
+        sposta({console_.left - kLarghezza - kOltreSinistra, posto_.top, kLarghezza, kAltezza});
+    if (suUnMonitor()) {
+        ConfermaPosizione();
+        return;
+    }
+    const Risposta risposta = s_.avvisi.chiedi(
+        {"Sembra che il secondo monitor non sia collegato oppure che non sia stata impostata la spunta per estendere "
+         "il desktop, vuoi impostarlo ora?",
+         "Attenzione", Icona::Esclamazione, Bottoni::SiNo});
+    if (risposta == Risposta::Si)
+        ApriImpostazioniSchermo(s_.ambiente, s_.desktop);
+}
+
+void Sagoma::ConfermaPosizione() {
+    sposta(AdattaAlMonitor(s_.schermi, posto_));
+    const FileIni ini(s_.ambiente.file(kFileImpostazioni));
+    const std::pair<const char*, Twip> chiavi[] = {
+        {"Top", posto_.top}, {"Left", posto_.left}, {"Width", posto_.width}, {"Height", posto_.height}};
+    for (const auto& [chiave, valore] : chiavi)
+        ini.ScriviIni(kSezioneForm, chiave, static_cast<float>(valore.v));
+    s_.messaggi.MostraMessaggio("Posizionamento avvenuto", 3);
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,277 @@
+#include "forms/qt/etichetta.h"
+#include "forms/qt/immagine.h"
+#include "platform/guasto.h"
+#include "tests/boards/banco_finestra.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QTest>
+
+#include <chrono>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+
+namespace lumigrafo::prova {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+struct Caso {
+    TipoVideata tipo;
+    const char* carattere; ///< of the big numbers with no settings; empty: the design's own
+    double punti;
+    const char* piccolo; ///< design font of the smallest numbers
+    bool titolo, reparti, comunicazione, pubblicita, striscia;
+    int scatti; ///< slots whose number blinks at a call
+};
+
+// clang-format off
+constexpr Caso kCasi[] = {
+    {TipoVideata::frmLumigrafo, "Arial Narrow", 100, "Arial", true, true, true, false, false, 3},
+    {TipoVideata::frmLumigrafooRIZZ, "Arial Blank", 72, "Franklin Gothic Medium Cond", true, true, true, true, true, 3},
+    {TipoVideata::frmLumigrafoOrizz9numeri, "Arial Blank", 72, "Franklin Gothic Medium Cond", true, true, true, true, true, 3},
+    {TipoVideata::frmLumigrafo1Reparto, "Arial Narrow", 100, "Franklin Gothic Medium Cond", true, false, true, true, true, 1},
+    {TipoVideata::frmLumigrafo1Reparto9numeri, "Arial Narrow", 100, "Verdana", true, false, true, false, false, 1},
+    {TipoVideata::frmLumigrafo1RepartoBig, "Arial Narrow", 160, "Franklin Gothic Medium Cond", true, false, true, true, true, 1},
+    {TipoVideata::frmLumigrafoPerson, "", 0, "Franklin Gothic Medium Cond", false, false, true, true, false, 1},
+    {TipoVideata::frmAvantiProssimo, "Arial Narrow", 100, "", false, false, false, true, true, 0},
+};
+// clang-format on
+
+bool avanti(TipoVideata tipo) {
+    return tipo == TipoVideata::frmAvantiProssimo;
+}
+
+std::string_view nomeNumero(TipoVideata tipo, int n) {
+    return avanti(tipo) ? "lblNumero" : etichettaNumero(n);
+}
+
+std::map<QString, QRect> geometria(const QWidget* finestra) {
+    std::map<QString, QRect> m;
+    for (const QWidget* w : finestra->findChildren<QWidget*>())
+        m[w->objectName()] = w->geometry();
+    return m;
+}
+
+class Famiglia : public testing::TestWithParam<Caso> {
+protected:
+    const Caso& caso = GetParam();
+    const RigaFamiglia& riga = famiglia(caso.tipo);
+};
+
+TEST_P(Famiglia, haIControlliDelPatto) {
+    BancoFinestra banco(caso.tipo);
+    banco.videata->Mostra();
+    const QWidget* finestra = BancoFinestra::finestra();
+    ASSERT_TRUE(finestra);
+    EXPECT_EQ(finestra->objectName().toStdString(), riga.nome);
+    for (int slot = 0; slot < riga.slot; ++slot) {
+        for (int n = 1; n <= riga.numeri; ++n)
+            EXPECT_TRUE(figlio(finestra, nomeNumero(caso.tipo, n), slot)) << n << " " << slot;
+        EXPECT_EQ(figlio(finestra, "lblTitolo", slot) != nullptr, caso.reparti);
+    }
+    EXPECT_FALSE(figlio(finestra, nomeNumero(caso.tipo, 1), riga.slot));
+    for (const auto& [nome, atteso] : std::map<const char*, bool>{{"lblChiudi", true},
+                                                                  {"lblTitoloLumigrafo", caso.titolo},
+                                                                  {"lblComunicazione", caso.comunicazione},
+                                                                  {"picComunicazione", caso.comunicazione},
+                                                                  {"picPubblicita", caso.pubblicita},
+                                                                  {"FraMirtolanda", caso.striscia}})
+        EXPECT_EQ(figlio(finestra, nome) != nullptr, atteso) << nome;
+}
+
+TEST_P(Famiglia, soloINumeriGrandiPrendonoIlCarattereDelleImpostazioni) {
+    for (const bool imposto : {false, true}) {
+        BancoFinestra banco(caso.tipo);
+        if (imposto) {
+            banco.imposta("FontNumeri", "Courier New");
+            banco.imposta("FontSizeNumeri", "33,5");
+        }
+        for (int slot = 0; slot < riga.slot; ++slot)
+            for (int n = 1; n <= riga.numeri; ++n) {
+                const Controllo& numero = banco.controllo(nomeNumero(caso.tipo, n), slot);
+                const bool grande = n <= riga.grandi;
+                const std::string disegno(numero.disegno().carattere.nome);
+                EXPECT_EQ(numero.FontName(), !grande   ? disegno
+                                             : imposto ? "Courier New"
+                                                       : caso.carattere)
+                    << n;
+                EXPECT_EQ(numero.FontSize(), !grande   ? numero.disegno().carattere.dimensione
+                                             : imposto ? 33.5
+                                                       : caso.punti)
+                    << n;
+                if (n > 3 && n > riga.grandi) {
+                    EXPECT_EQ(disegno, caso.piccolo);
+                }
+            }
+    }
+}
+
+TEST_P(Famiglia, lampeggianoIPostiCheLoSanno) {
+    BancoFinestra banco(caso.tipo);
+    banco.imposta("NumeroLampeggi", 1);
+    banco.videata->Mostra();
+    const int rotazione = banco.timers.accesi();
+    EXPECT_EQ(rotazione,
+              caso.pubblicita && !avanti(caso.tipo) &&
+                      caso.tipo != TipoVideata::frmLumigrafoOrizz9numeri && // no room with three rows
+                      caso.tipo != TipoVideata::frmLumigrafo1RepartoBig     // no picture in the folder
+                  ? 1
+                  : 0);
+    for (std::int16_t slot = -1; slot <= 3; ++slot)
+        banco.videata->Blinka(slot);
+    EXPECT_EQ(banco.timers.accesi() - rotazione, caso.scatti);
+    for (const char* cassa : {"A", "B", "C", "D", "E"})
+        banco.videata->Lampeggia(cassa, "1");
+    EXPECT_EQ(banco.timers.accesi() - rotazione, avanti(caso.tipo) ? 5 : caso.scatti);
+    banco.timers.avanza(600ms);
+    const bool siNasconde = caso.tipo != TipoVideata::frmLumigrafo1RepartoBig;
+    QWidget* numero = figlio(BancoFinestra::finestra(), nomeNumero(caso.tipo, 3), 0);
+    EXPECT_EQ(numero->isHidden(), siNasconde);
+    banco.videata->Scarica(); // in the middle of it
+    EXPECT_EQ(banco.timers.accesi(), 0);
+    banco.videata->Mostra();
+    EXPECT_FALSE(figlio(BancoFinestra::finestra(), nomeNumero(caso.tipo, 3), 0)->isHidden());
+}
+
+TEST_P(Famiglia, unNumeroNonETagliatoMai) {
+    BancoFinestra banco(caso.tipo);
+    banco.imposta("QuanteCasse", 5);
+    banco.videata->Mostra();
+    QWidget* finestra = BancoFinestra::finestra();
+    for (const QSize misura : {QSize(800, 600), QSize(1920, 1080), QSize(3840, 2160), QSize(1080, 1920)}) {
+        finestra->resize(misura);
+        for (const char* testo : {"1", "12345", "A 7", "A 12345"})
+            for (int n = 1; n <= riga.numeri; ++n) {
+                auto& etichetta = dynamic_cast<EtichettaWidget&>(
+                    *figlio(finestra, nomeNumero(caso.tipo, n), riga.slot - 1));
+                banco.controllo(nomeNumero(caso.tipo, n), riga.slot - 1).Caption(testo);
+                const QRect area = etichetta.area();
+                const QRect nelPadre = area.translated(etichetta.pos());
+                EXPECT_TRUE(etichetta.parentWidget()->rect().contains(nelPadre));
+                QFont usato = etichetta.testo().carattere();
+                usato.setPixelSize(etichetta.testo().pixelIn(area.size()));
+                const QRectF inchiostro = QFontMetricsF(usato).tightBoundingRect(QString::fromLatin1(testo));
+                EXPECT_LE(inchiostro.width(), area.width() + 1) << testo << " " << n << " " << misura.width();
+                EXPECT_LE(inchiostro.height(), area.height() + 1) << testo << " " << n;
+                EXPECT_GE(usato.pixelSize(), 12) << testo << " " << n << " " << misura.width();
+            }
+    }
+}
+
+TEST_P(Famiglia, dopoOgniMisuraTornaComEra) {
+    BancoFinestra banco(caso.tipo);
+    banco.videata->Mostra();
+    QWidget* finestra = BancoFinestra::finestra();
+    const Layout& layout = banco.videata->controlli().layout();
+    const QSize disegno(aPixel(layout.larghezza).v, aPixel(layout.altezza).v);
+    finestra->resize(disegno);
+    const auto prima = geometria(finestra);
+    for (const auto& c : banco.videata->controlli().tutti()) {
+        const Rettangolo& r = c->Posto();
+        const QRect& visto = prima.at(QString::fromStdString(c->NomeCompleto()));
+        EXPECT_EQ(visto.topLeft(), QPoint(aPixel(r.left).v, aPixel(r.top).v)) << c->NomeCompleto();
+    }
+    for (int i = 0; i < 20; ++i)
+        finestra->resize(701 + 137 * i, 401 + 83 * i);
+    finestra->resize(2 * disegno);
+    EXPECT_NEAR(figlio(finestra, nomeNumero(caso.tipo, 3), 0)->width(),
+                2 * prima.at(QString::fromStdString(nomeCompleto(nomeNumero(caso.tipo, 3), 0))).width(), 1);
+    finestra->resize(disegno);
+    EXPECT_EQ(geometria(finestra), prima);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tutte, Famiglia, testing::ValuesIn(kCasi),
+                         [](const auto& caso) { return std::string(famiglia(caso.param.tipo).nome); });
+
+/// A picture of one colour in the program folder.
+std::filesystem::path figura(const BancoVideata& banco, const char* nome, QSize misura, QColor tinta) {
+    const auto file = banco.cartella.percorso() / nome;
+    QImage carta(misura, QImage::Format_RGB32);
+    carta.fill(tinta);
+    carta.save(QString::fromStdString(file.string()), "JPG", 95);
+    return file;
+}
+
+QColor tintaIn(QWidget* finestra, QPoint punto) {
+    const QColor c = finestra->grab().toImage().pixelColor(punto);
+    // What a JPEG keeps of a colour is near enough.
+    return QColor(c.red() > 127 ? 255 : 0, c.green() > 127 ? 255 : 0, c.blue() > 127 ? 255 : 0);
+}
+
+TEST(PubblicitaVista, stirataONaturale) {
+    for (const int resize : {1, 0, -1}) {
+        BancoFinestra banco(TipoVideata::frmLumigrafoOrizz9numeri);
+        banco.console.inUso[2] = false;
+        banco.imposta("ResizePubblicita", resize);
+        banco.imposta("PubblicitaMirtolanda", 1); // the panel ends where the window does
+        figura(banco, "pubblicita1.jpg", {100, 50}, Qt::green);
+        banco.videata->Mostra();
+        QWidget* finestra = BancoFinestra::finestra();
+        finestra->resize(1512, 1066); // half as large again: the strip below stays 40 pixels
+        const QRect area = figlio(finestra, "picPubblicita")->geometry();
+        EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(5, 5)), QColor(Qt::black)) << "before a tick";
+        banco.timers.avanza(10000ms);
+        EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(95, 45)), QColor(Qt::green));
+        const QColor lontano = resize == 1 ? Qt::green : Qt::black;
+        EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(110, 55)), lontano);
+        EXPECT_EQ(tintaIn(finestra, QPoint(area.right() - 3, area.top() + 200)), lontano);
+        const int fondo = area.top() + area.height() - 40;
+        EXPECT_EQ(tintaIn(finestra, QPoint(1499, fondo - 3)), lontano);
+        EXPECT_EQ(tintaIn(finestra, QPoint(1499, fondo + 3)), QColor(Qt::black));
+    }
+}
+
+TEST(PubblicitaVista, laStrisciaNonSiCopre) {
+    BancoFinestra banco(TipoVideata::frmLumigrafooRIZZ);
+    banco.imposta("PubblicitaMirtolanda", 1);
+    figura(banco, "pubblicita1.jpg", {100, 50}, Qt::green);
+    banco.videata->Mostra();
+    banco.controllo("picPubblicita").ZOrder();
+    banco.timers.avanza(10000ms);
+    QWidget* finestra = BancoFinestra::finestra();
+    QWidget* striscia = figlio(finestra, "FraMirtolanda");
+    EXPECT_TRUE(striscia->isVisible());
+    QWidget* sotto = finestra->childAt(striscia->geometry().center());
+    EXPECT_TRUE(sotto == striscia || striscia->isAncestorOf(sotto));
+}
+
+TEST(PubblicitaVista, ilGuastoDiceQualFile) {
+    BancoFinestra banco(TipoVideata::frmLumigrafoPerson); // its hidden panel reads the files all the same
+    const auto file = banco.cartella.percorso() / "Pubblicita rotta.JPG";
+    std::ofstream(file) << "not a picture";
+    banco.videata->Mostra();
+    try {
+        banco.timers.avanza(32000ms);
+        FAIL() << "no failure";
+    } catch (const Guasto& g) {
+        EXPECT_EQ(g.numero(), guasti::kImmagine);
+        EXPECT_NE(g.descrizione().find(file.string()), std::string::npos) << g.descrizione();
+    }
+}
+
+TEST(SfondoVisto, riempieLaFinestraSottoINumeri) {
+    BancoFinestra banco(TipoVideata::frmLumigrafoPerson);
+    const auto file = figura(banco, "mia foto.jpg", {60, 200}, Qt::blue);
+    banco.videata->Mostra();
+    QWidget* finestra = BancoFinestra::finestra();
+    EXPECT_NE(tintaIn(finestra, QPoint(5, 5)), QColor(Qt::blue));
+    banco.sceltaFile.scelto = file;
+    QTest::mouseDClick(figlio(finestra, "lblNumero3", 0), Qt::LeftButton);
+    EXPECT_TRUE(banco.sceltaFile.chieste.empty()) << "a label takes its own clicks";
+    QTest::mouseDClick(finestra, Qt::LeftButton, {}, QPoint(finestra->width() - 60, finestra->height() / 2));
+    ASSERT_EQ(banco.sceltaFile.chieste.size(), 1U);
+    for (const QPoint punto : {QPoint(3, 3), QPoint(finestra->width() - 3, finestra->height() - 3)})
+        EXPECT_EQ(tintaIn(finestra, punto), QColor(Qt::blue));
+
+    banco.videata->Scarica();
+    banco.videata->Mostra();
+    EXPECT_EQ(tintaIn(BancoFinestra::finestra(), QPoint(3, 3)), QColor(Qt::blue)) << "kept for later runs";
+}
+
+} // namespace
+
+} // namespace lumigrafo::prova
