@@ -11,7 +11,7 @@ errore() {
 }
 
 # What building, testing and the demonstration need, as Debian names it.
-pacchetti_costruzione=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libqt6svg6-dev qt6-speech-dev
+pacchetti_costruzione=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev qt6-speech-dev
   qt6-declarative-dev libsqlite3-dev)
 pacchetti_uso=(libqt6svg6 qt6-speech-speechd-plugin speech-dispatcher speech-dispatcher-espeak-ng
   speech-dispatcher-audio-plugins espeak-ng fonts-liberation fonts-dejavu-core fonts-comic-neue fonts-roboto fonts-lato
