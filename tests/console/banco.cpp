@@ -16,8 +16,8 @@ Console& Banco::console() {
                      sistema, desktop, uscita, dialoghi, annunciatore, fiscale, android, server},
         finestraVera ? *finestraVera : finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
-            // The standard board, whatever the type: it has the slots of all three quadrants.
-            return creaVideata(TipoVideata::frmLumigrafo, *servizi_,
+            // The standard board unless asked otherwise: it has the slots of all three quadrants.
+            return creaVideata(tipoVero ? tipo : TipoVideata::frmLumigrafo, *servizi_,
                                [this](std::shared_ptr<Controlli>, EventiFinestra) {
                                    return std::make_unique<FinestraVideataFinta>(diario);
                                });

@@ -64,6 +64,7 @@ public:
     Console& caricata();
     Videata& board() { return *console().stato().frmVideata; }
     TipoVideata tipoChiesto{};
+    bool tipoVero = false; ///< the board of the settings, not the standard one
 
     void imposta(const char* chiave, const ValoreIni& valore) {
         impostazioni.ScriviIni(kSezioneImpostazioni, chiave, valore);

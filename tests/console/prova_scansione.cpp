@@ -160,6 +160,25 @@ TEST_F(Scansioni, ACodeCannotStartInsideAnother) {
     EXPECT_THAT(b.celle(0), Not(Contains("A  200")));
 }
 
+TEST_F(Scansioni, ABoardWithoutSlotsForTheQuadrantShowsNothingAndStopsNothing) {
+    b.imposta("TipoLumigrafo", 2); // the custom board shows the first department only
+    b.tipoVero = true;
+    b.caricata();
+    scandisci("5996502001233");
+    EXPECT_THAT(b.diario, Contains("voce Numero A 123"));
+    EXPECT_EQ(b.archivio.leggi("SELECT Categoria2 FROM Lumigrafo WHERE Numero = 123"), "0");
+    EXPECT_FALSE(std::filesystem::exists(b.videata.file()));
+    Banco prossimo;
+    prossimo.imposta("Categoria0", 1);
+    prossimo.imposta("TipoLumigrafo", 4);
+    prossimo.tipoVero = true;
+    prossimo.archivio.ordine("A", 7, {{1, 1}});
+    prossimo.caricata();
+    for (const char tasto : std::string("5996501000070\r"))
+        prossimo.console().tasto(static_cast<unsigned char>(tasto));
+    EXPECT_EQ(prossimo.archivio.coda(), "");
+}
+
 TEST_F(Scansioni, AScanIgnoresStrikeOffModeAndTheNextButtonRefusesInIt) {
     b.imposta("BottoneAvanti", 1);
     b.caricata();
