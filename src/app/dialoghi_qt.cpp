@@ -1,6 +1,6 @@
 #include "app/dialoghi_qt.h"
 
-#include "settings/qt/sagoma_qt.h"
+#include "boards/qt/sagoma_qt.h"
 #include "settings/qt/spegni_qt.h"
 
 #include <utility>
@@ -14,7 +14,7 @@ DialoghiQt::DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimenta
 
 void DialoghiQt::manca(const char* cosa) {
     sagoma_.avvisi.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",
-                    Icona::Informazione, Bottoni::Ok});
+                           Icona::Informazione, Bottoni::Ok});
 }
 
 void DialoghiQt::frmSpegni() {

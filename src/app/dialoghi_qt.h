@@ -1,11 +1,11 @@
 #pragma once
 
+#include "boards/sagoma.h"
 #include "platform/alimentazione.h"
 #include "platform/avvisi.h"
 #include "platform/processi.h"
 #include "platform/sistema.h"
 #include "settings/dialoghi.h"
-#include "settings/sagoma.h"
 
 #include <functional>
 

@@ -105,8 +105,8 @@ void Chiamata::MostraNumero(std::int16_t index, const std::string& sigla, const 
     const std::string testo = testoVideata(sigla, numero);
     c_.controlli("lblNumero", index).Caption(testo);
     c_.frmVideata().Mostra();
-    // A board of one department has no slots for the others, and the next-customer board none at all: a number of
-    // theirs is announced and struck off without it.
+    // A board of one department has no slots for the others, and the next-customer board none at all: a
+    // number of theirs is announced and struck off without it.
     const bool senzaPosto = !c_.frmVideata().controlli().cerca(kEta.front(), index);
     if (senzaPosto || giaInMostra(index, testo))
         return; // a number can't be on the board twice in one quadrant

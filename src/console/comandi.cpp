@@ -25,7 +25,8 @@ Rettangolo postoSalvato(const FileIni& ini) {
 } // namespace
 
 Comandi::Comandi(ContestoConsole& contesto, Timer& Timer1)
-    : c_(contesto), Timer1_(Timer1), timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })) {
+    : c_(contesto), Timer1_(Timer1),
+      timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })) {
     timerBottoni_->abilita(true);
 }
 
@@ -93,7 +94,8 @@ void Comandi::cmdUscita() {
 }
 
 void Comandi::cmdRiavvia() {
-    Timer1_.abilita(false); // a rebuild without an archive would end the program before the new one is started
+    Timer1_.abilita(
+        false); // a rebuild without an archive would end the program before the new one is started
     c_.stato.Db->Close();
     c_.cedi("cmdRiavvia/1");
     c_.porte.processi.avvia(c_.porte.ambiente.eseguibile, {"RIAVVIO"}, StileFinestra::Ridotta);

@@ -11,6 +11,7 @@
 #include "platform/avvisi.h"
 #include "platform/desktop.h"
 #include "platform/guasto.h"
+#include "platform/messaggi.h"
 #include "platform/orologio.h"
 #include "platform/pompa.h"
 #include "platform/processi.h"
@@ -18,7 +19,6 @@
 #include "platform/timer.h"
 #include "settings/dialoghi.h"
 #include "settings/ini/ini.h"
-#include "settings/messaggi.h"
 
 #include <string_view>
 

@@ -8,11 +8,11 @@ namespace lumigrafo {
 class Desktop {
 public:
     virtual ~Desktop() = default;
-    /// Extends the desktop over every monitor that is connected. Returns at once; the monitors come up meanwhile. Throws
-    /// Guasto 53 where the machine has no means for it.
+    /// Extends the desktop over every monitor that is connected. Returns at once; the monitors come up
+    /// meanwhile. Throws Guasto 53 where the machine has no means for it.
     virtual void estendi() = 0;
-    /// Opens the system's display settings for the operator. `comandi` is the batch file that does so on the first
-    /// platform; elsewhere the desktop's own program is started. Throws Guasto 53 where there is none.
+    /// Opens the system's display settings for the operator. `comandi` is the batch file that does so on the
+    /// first platform; elsewhere the desktop's own program is started. Throws Guasto 53 where there is none.
     virtual void apriImpostazioni(const std::filesystem::path& comandi) = 0;
 };
 

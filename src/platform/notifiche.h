@@ -8,8 +8,8 @@ namespace lumigrafo {
 class Notifiche {
 public:
     virtual ~Notifiche() = default;
-    /// Shows `testo` (UTF-8, line ends CR LF or LF) and goes away by itself; it takes neither the keyboard nor the
-    /// caller's time.
+    /// Shows `testo` (UTF-8, line ends CR LF or LF) and goes away by itself; it takes neither the keyboard
+    /// nor the caller's time.
     virtual void NotificaPopup(const std::string& testo) = 0;
 };
 

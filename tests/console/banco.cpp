@@ -9,7 +9,8 @@ Console& Banco::console() {
         return *console_;
     Timers& iTimers = timersVeri ? *timersVeri : timers;
     pompaConsole_ = std::make_unique<PompaConsole>(pompaVera ? *pompaVera : pompa, stato);
-    servizi_ = std::make_unique<ServiziSchede>(ServiziSchede{ambiente, *pompaConsole_, iTimers, dati, sceltaFile});
+    servizi_ =
+        std::make_unique<ServiziSchede>(ServiziSchede{ambiente, *pompaConsole_, iTimers, dati, sceltaFile});
     console_ = std::make_unique<Console>(
         stato,
         PorteConsole{ambiente, orologio, *pompaConsole_, iTimers, avvisi, messaggi, processi, alimentazione,

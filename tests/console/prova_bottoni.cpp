@@ -74,9 +74,10 @@ TEST(Bottoni, PlacingTheBoardGoesStepByStep) {
         b.console().clic("cmdPosizionaLumigrafo", kSenzaIndice);
         EXPECT_THAT(b.diario,
                     ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "videata in vista",
-                                "cedi cmdLumigrafo/1", "videata normale", "console in vista", "videata nascosta",
-                                "estendi", "attendi 2000", "massimizza", "cedi cmdPosizionaLumigrafo/4", "ridisponi",
-                                "attendi 1000", "frmSagoma", "videata in vista", "videata a -19200"));
+                                "cedi cmdLumigrafo/1", "videata normale", "console in vista",
+                                "videata nascosta", "estendi", "attendi 2000", "massimizza",
+                                "cedi cmdPosizionaLumigrafo/4", "ridisponi", "attendi 1000", "frmSagoma",
+                                "videata in vista", "videata a -19200"));
     }
 }
 

@@ -1,3 +1,9 @@
+#include "console/qt/frmGestione.h"
+#include "forms/qt/griglia_widget.h"
+#include "platform/qt/pompa_qt.h"
+#include "platform/qt/timers_qt.h"
+#include "tests/console/banco.h"
+
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QLineEdit>
@@ -5,12 +11,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "console/qt/frmGestione.h"
-#include "forms/qt/griglia_widget.h"
-#include "platform/qt/pompa_qt.h"
-#include "platform/qt/timers_qt.h"
-#include "tests/console/banco.h"
 
 namespace lumigrafo::prova {
 namespace {
@@ -70,8 +70,9 @@ protected:
 TEST_F(FinestraGestione, ControlsBearTheirNamesAndMenusTheirs) {
     avvia();
     EXPECT_EQ(finestra.objectName(), QStringLiteral("frmGestione"));
-    for (const char* nome : {"grid(0)", "grid(2)", "lblReparto(1)", "lblPezzi(0)", "cmdModalita(0)", "cmdModalita(1)",
-                             "txtBarCode", "fraMessaggio", "lblNumeroPrec(7)", "cmdAllarga", "lblDB"})
+    for (const char* nome :
+         {"grid(0)", "grid(2)", "lblReparto(1)", "lblPezzi(0)", "cmdModalita(0)", "cmdModalita(1)",
+          "txtBarCode", "fraMessaggio", "lblNumeroPrec(7)", "cmdAllarga", "lblDB"})
         (void)trova(nome);
     for (const char* nome : {"mnuImposta", "mnuDatabase", "mnuFiscale"})
         (void)trova<QAction>(nome);
@@ -84,7 +85,8 @@ TEST_F(FinestraGestione, FiftyCodesAtScannerSpeedAreAllWorkedOnInOrder) {
         b.archivio.ordine("A", n, {{1, 1}});
     avvia();
     int prossimo = 1;
-    // A code each 300 ms: two or three arrive in the 700 ms that a panel stands, in the middle of one at times.
+    // A code each 300 ms: two or three arrive in the 700 ms that a panel stands, in the middle of one at
+    // times.
     b.orologio.durante = [&] {
         for (int i = 0; i < 2 + prossimo % 2 && prossimo <= 50; ++i)
             accodaCodice(prossimo++);
@@ -139,7 +141,8 @@ TEST_F(FinestraGestione, TheOutcomePanelCoversTheWholeConsole) {
         accoda(c);
     ASSERT_TRUE(QTest::qWaitFor([&] { return !vista.isNull(); }, 5000));
     const QColor verde(128, 255, 128);
-    for (const QPoint p : {QPoint(2, 2), QPoint(vista.width() - 3, vista.height() - 3), QPoint(60, vista.height() / 2)})
+    for (const QPoint p :
+         {QPoint(2, 2), QPoint(vista.width() - 3, vista.height() - 3), QPoint(60, vista.height() / 2)})
         EXPECT_EQ(vista.pixelColor(p), verde) << p.x() << "," << p.y();
 }
 

@@ -43,7 +43,8 @@ TEST(Spegni, EachButtonStopsTheCompanionAndDoesItsOwn) {
     diario.clear();
     spegni.clic("cmdAnnulla");
     EXPECT_THROW(spegni.clic("cmdChiudi"), FineProcesso);
-    EXPECT_THAT(diario, ElementsAre("indietro", "termina PrimoPiano.exe", "termina primopiano.exe", "fine 0"));
+    EXPECT_THAT(diario,
+                ElementsAre("indietro", "termina PrimoPiano.exe", "termina primopiano.exe", "fine 0"));
 }
 
 } // namespace

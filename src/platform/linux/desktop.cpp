@@ -64,15 +64,16 @@ std::string uscitaDi(const char* comando) {
 std::vector<std::string> argomentiEstensione(std::string_view elenco) {
     const std::vector<Collegato> tutti = collegati(elenco);
     const auto daSpostare = [&tutti](std::size_t i) {
-        return tutti[i].posto.empty() || std::any_of(tutti.begin(), tutti.begin() + static_cast<std::ptrdiff_t>(i),
-                                                     [&](const Collegato& prima) {
-                                                         return origine(prima.posto) == origine(tutti[i].posto);
-                                                     });
+        return tutti[i].posto.empty() ||
+               std::any_of(
+                   tutti.begin(), tutti.begin() + static_cast<std::ptrdiff_t>(i),
+                   [&](const Collegato& prima) { return origine(prima.posto) == origine(tutti[i].posto); });
     };
     std::vector<std::string> argomenti;
     for (std::size_t i = 1; i < tutti.size(); ++i)
         if (daSpostare(i)) {
-            const std::vector<std::string> uno = {"--output", tutti[i].nome, "--auto", "--right-of", tutti[i - 1].nome};
+            const std::vector<std::string> uno = {"--output", tutti[i].nome, "--auto", "--right-of",
+                                                  tutti[i - 1].nome};
             argomenti.insert(argomenti.end(), uno.begin(), uno.end());
         }
     return argomenti;
@@ -87,7 +88,8 @@ void DesktopLinux::estendi() {
 void DesktopLinux::apriImpostazioni(const std::filesystem::path&) {
     for (const auto& comando : kImpostazioni)
         if (ignorandoGuasti([&] {
-                processi_.avvia(comando.front(), {comando.begin() + 1, comando.end()}, StileFinestra::Normale);
+                processi_.avvia(comando.front(), {comando.begin() + 1, comando.end()},
+                                StileFinestra::Normale);
             }))
             return;
     throw Guasto(guasti::kFileNonTrovato);

@@ -1,6 +1,6 @@
 #include "platform/qt/notifiche_qt.h"
 
-#include <algorithm>
+#include "platform/qt/aspetto.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -8,7 +8,7 @@
 #include <QScreen>
 #include <QTimer>
 
-#include "platform/qt/aspetto.h"
+#include <algorithm>
 
 namespace lumigrafo {
 
@@ -25,7 +25,8 @@ class Notifica final : public QLabel {
 public:
     explicit Notifica(const QString& testo)
         : QLabel(testo, nullptr,
-                 Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus) {
+                 Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint |
+                     Qt::WindowDoesNotAcceptFocus) {
         setObjectName(QStringLiteral("notifica"));
         setAttribute(Qt::WA_ShowWithoutActivating);
         setAttribute(Qt::WA_DeleteOnClose);

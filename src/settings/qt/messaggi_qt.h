@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/messaggi.h"
 #include "platform/timer.h"
-#include "settings/messaggi.h"
 
 namespace lumigrafo {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/messaggi.h"
+#include "platform/messaggi.h"
 
 #include <cstdint>
 #include <functional>

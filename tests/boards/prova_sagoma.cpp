@@ -1,9 +1,9 @@
-#include "platform/finti/finti.h"
+#include "boards/sagoma.h"
 #include "platform/file.h"
+#include "platform/finti/finti.h"
+#include "platform/finti/messaggi_finti.h"
 #include "platform/guasto.h"
 #include "platform/linux/desktop.h"
-#include "settings/finti/messaggi_finti.h"
-#include "settings/sagoma.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
 #include <gmock/gmock.h>
@@ -48,7 +48,8 @@ TEST_P(Posizionamento, FindsTheMonitorBesideTheConsole) {
         EXPECT_EQ(leggi("Width"), std::to_string(static_cast<int>(r.width.v)));
         EXPECT_EQ(leggi("Height"), std::to_string(static_cast<int>(r.height.v)));
         EXPECT_EQ(sagoma.posto(), r);
-        EXPECT_THAT(messaggi.mostrati, ElementsAre(std::pair<std::string, std::int16_t>("Posizionamento avvenuto", 3)));
+        EXPECT_THAT(messaggi.mostrati,
+                    ElementsAre(std::pair<std::string, std::int16_t>("Posizionamento avvenuto", 3)));
         return;
     }
     EXPECT_EQ(leggi("Left"), "-"); // the old values stay
@@ -72,7 +73,8 @@ INSTANTIATE_TEST_SUITE_P(
              Rettangolo{-19200, 0, 19200, 15360}},
         // The window system counts from the second monitor's corner, so the console doesn't stand at 0.
         Caso{"sinistra_dall_origine",
-             {{{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true}, {{0, 0, 15360, 11520}, {0, 0, 15360, 11520}, false}},
+             {{{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true},
+              {{0, 0, 15360, 11520}, {0, 0, 15360, 11520}, false}},
              {15360, 0, 28800, 16200},
              Rettangolo{0, 0, 15360, 11520}},
         Caso{"sopra",

@@ -1,4 +1,4 @@
-#include "settings/qt/sagoma_qt.h"
+#include "boards/qt/sagoma_qt.h"
 
 #include "forms/qt/finestra.h"
 

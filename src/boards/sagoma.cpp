@@ -1,4 +1,4 @@
-#include "settings/sagoma.h"
+#include "boards/sagoma.h"
 
 #include "boards/modulo_monitor.h"
 #include "forms/verifica.h"

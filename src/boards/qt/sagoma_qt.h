@@ -1,6 +1,6 @@
 #pragma once
 
-#include "settings/sagoma.h"
+#include "boards/sagoma.h"
 
 namespace lumigrafo {
 

@@ -4,10 +4,10 @@
 #include "platform/ambiente.h"
 #include "platform/avvisi.h"
 #include "platform/desktop.h"
+#include "platform/messaggi.h"
 #include "platform/pompa.h"
 #include "platform/schermi.h"
 #include "settings/ini/ini.h"
-#include "settings/messaggi.h"
 
 #include <functional>
 
@@ -16,8 +16,8 @@ namespace lumigrafo {
 /// The batch file that opens the display settings on the first platform; written everywhere.
 inline constexpr const char* kFileImpoSchermo = "imposchermo.bat";
 
-/// Opens the system's display settings for the operator. A program folder that can't be written, and a machine without
-/// such a program, throw Guasto.
+/// Opens the system's display settings for the operator. A program folder that can't be written, and a
+/// machine without such a program, throw Guasto.
 void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop);
 
 /// What the search for the second monitor works with; all of it outlives the search.
@@ -30,9 +30,9 @@ struct ServiziSagoma {
     Desktop& desktop;
 };
 
-/// The template of the board, `frmSagoma`: a small window that steps beside the console, first to its right and then to
-/// its left, and asks whether it stands on a monitor there. If so it fills that monitor's work area, and its place is
-/// kept as the one where every board goes from then on.
+/// The template of the board, `frmSagoma`: a small window that steps beside the console, first to its right
+/// and then to its left, and asks whether it stands on a monitor there. If so it fills that monitor's work
+/// area, and its place is kept as the one where every board goes from then on.
 class Sagoma {
 public:
     /// `console`: where the console stands, twips of the desktop.
