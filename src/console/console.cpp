@@ -95,15 +95,11 @@ void Console::cmdAvanti() {
     bottone.Enabled(false);
     contesto_.cedi("cmdAvanti/2");
     Griglia& grid = stato_.grid[0];
-    for (int r = 0; r < grid.Rows(); ++r)
-        for (int k = 0; k < grid.Cols(); ++k)
-            if (!grid.testo(r, k).empty()) {
-                grid.corrente(r, k);
-                clicGriglia(0);
-                contesto_.cedi("cmdAvanti/3");
-                bottone.Enabled(true);
-                return;
-            }
+    if (const auto posto = grid.primaPiena()) {
+        grid.corrente(posto->riga, posto->colonna);
+        clicGriglia(0);
+        contesto_.cedi("cmdAvanti/3");
+    }
     bottone.Enabled(true);
 }
 

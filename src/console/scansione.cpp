@@ -83,13 +83,10 @@ std::int16_t Scansione::quadranteDi(std::int16_t categoria) const {
 
 bool Scansione::trovaCella(std::int16_t quadrante, const std::string& testo) {
     Griglia& grid = c_.stato.grid.at(static_cast<std::size_t>(quadrante));
-    for (int r = 0; r < grid.Rows(); ++r)
-        for (int k = 0; k < grid.Cols(); ++k)
-            if (grid.testo(r, k) == testo) {
-                grid.corrente(r, k);
-                return true;
-            }
-    return false;
+    const auto posto = grid.cerca(testo);
+    if (posto)
+        grid.corrente(posto->riga, posto->colonna);
+    return posto.has_value();
 }
 
 void Scansione::chiama(std::int16_t quadrante, const std::string& sigla, const std::string& numero) {

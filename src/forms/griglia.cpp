@@ -62,6 +62,22 @@ void Griglia::testo(int riga, int colonna, std::string testo) {
     annuncia(riga, colonna);
 }
 
+std::optional<Griglia::Posto> Griglia::cerca(std::string_view testo) const {
+    for (int r = 0; r < Rows(); ++r)
+        for (int k = 0; k < colonne_; ++k)
+            if (cella(r, k).testo == testo)
+                return Posto{r, k};
+    return std::nullopt;
+}
+
+std::optional<Griglia::Posto> Griglia::primaPiena() const {
+    for (int r = 0; r < Rows(); ++r)
+        for (int k = 0; k < colonne_; ++k)
+            if (!cella(r, k).testo.empty())
+                return Posto{r, k};
+    return std::nullopt;
+}
+
 std::optional<Colore> Griglia::sfondo(int riga, int colonna) const {
     return cella(riga, colonna).sfondo;
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lumigrafo {
@@ -26,6 +27,13 @@ public:
 
     [[nodiscard]] const std::string& testo(int riga, int colonna) const;
     void testo(int riga, int colonna, std::string testo);
+    /// The first cell with exactly this text, row by row and left to right; nothing where there is none.
+    struct Posto {
+        int riga, colonna;
+    };
+    [[nodiscard]] std::optional<Posto> cerca(std::string_view testo) const;
+    /// The first cell with any text.
+    [[nodiscard]] std::optional<Posto> primaPiena() const;
     [[nodiscard]] std::optional<Colore> sfondo(int riga, int colonna) const;
     /// None gives the grid's own colour back.
     void sfondo(int riga, int colonna, std::optional<Colore> c);
