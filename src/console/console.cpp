@@ -33,6 +33,10 @@ Console::Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole
     Timer1_->abilita(true); // as designed; the load switches it off at once
 }
 
+Console::~Console() {
+    stato_.frmVideata.reset();
+}
+
 void Console::clic(std::string_view nome, int indice) {
     struct Azione {
         std::string_view nome;

@@ -17,6 +17,10 @@ public:
     /// What is handed in outlives the console.
     Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole& finestra,
             FabbricaVideata fabbrica);
+    /// Takes the board with it: its timers and its window belong to the ports that were handed in.
+    ~Console();
+    Console(const Console&) = delete;
+    Console& operator=(const Console&) = delete;
 
     [[nodiscard]] Controlli& controlli() { return controlli_; }
     [[nodiscard]] const Controlli& controlli() const { return controlli_; }
