@@ -64,8 +64,16 @@ void Sagoma::attiva() {
         {"Sembra che il secondo monitor non sia collegato oppure che non sia stata impostata la spunta per estendere "
          "il desktop, vuoi impostarlo ora?",
          "Attenzione", Icona::Esclamazione, Bottoni::SiNo});
-    if (risposta == Risposta::Si)
+    if (risposta != Risposta::Si)
+        return;
+    try {
         ApriImpostazioniSchermo(s_.ambiente, s_.desktop);
+    } catch (const Guasto& guasto) {
+        if (guasto.numero() != guasti::kFileNonTrovato)
+            throw;
+        s_.messaggi.MostraMessaggio(
+            "Su questo computer non c'è un programma per le impostazioni dello schermo", 4);
+    }
 }
 
 void Sagoma::ConfermaPosizione() {

@@ -9,7 +9,8 @@ namespace {
 constexpr std::size_t kLunghezza = 13;
 constexpr std::string_view kPrefisso = "599";
 constexpr const char* kErrato = "BarCode errato!";
-/// Numbers of orders have 16 bits; a code with a larger one is none of ours.
+/// Numbers of orders have 16 bits; the digits of a larger one are left as they stand, and no order bears
+/// them.
 constexpr double kNumeroMassimo = 32767;
 
 } // namespace
@@ -27,12 +28,8 @@ std::variant<CodiceScontrino, std::string> leggiCodice(std::string_view testo) {
     if (lettera != "00" && isNumeric(lettera))
         letto.sigla = std::string(1, static_cast<char>(val(lettera)));
     const std::string numero = trim(codice.substr(7, 5));
-    if (!isNumeric(numero))
-        return letto;
-    const double valore = aDoppio(numero);
-    if (valore > kNumeroMassimo)
-        return kErrato;
-    letto.numero = std::to_string(aIntero16(valore));
+    if (isNumeric(numero))
+        letto.numero = aDoppio(numero) > kNumeroMassimo ? numero : std::to_string(aIntero16(numero));
     return letto;
 }
 

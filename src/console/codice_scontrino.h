@@ -11,7 +11,8 @@ namespace lumigrafo {
 struct CodiceScontrino {
     std::int16_t categoria = 0; ///< 0: none
     std::string sigla;          ///< one character, or empty
-    std::string numero;         ///< decimal without leading zeros; empty where its digits are none
+    std::string numero;         ///< decimal without leading zeros; empty where its digits are none, as it
+                                ///< stands where it is beyond 16 bits
 };
 
 /// Reads a code of 13 digits: the prefix 599, two digits of the letter's character code, two of the category,

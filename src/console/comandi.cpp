@@ -26,7 +26,8 @@ Rettangolo postoSalvato(const FileIni& ini) {
 
 Comandi::Comandi(ContestoConsole& contesto, Timer& Timer1)
     : c_(contesto), Timer1_(Timer1),
-      timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })) {
+      timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })),
+      timerPrimoPiano_(c_.porte.timers.crea(4000ms, [this] { timerPrimoPiano(); })) {
     timerBottoni_->abilita(true);
 }
 
@@ -86,6 +87,15 @@ void Comandi::cmdPosizionaLumigrafo() {
     c_.frmVideata().Mostra();
     c_.frmVideata().Posiziona(postoSalvato(c_.impostazioni));
     c_.fuocoSuTxtBarCode();
+}
+
+void Comandi::timerPrimoPiano() {
+    if (!c_.porte.ambiente.ridotta())
+        ignorandoGuasti([this] {
+            c_.porte.processi.avvia(c_.porte.ambiente.file("PrimoPiano.exe"),
+                                    {std::string(c_.controlli.layout().titolo)}, StileFinestra::Normale);
+        });
+    timerPrimoPiano_->abilita(false);
 }
 
 void Comandi::cmdUscita() {

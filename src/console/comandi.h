@@ -22,6 +22,9 @@ public:
     void cmdPulisciLumigrafo();
     /// Looks for the second monitor and puts the board there. The waits block the console for three seconds.
     void cmdPosizionaLumigrafo();
+    /// The tick that starts the companion program which keeps the console in front. Nothing ever switches its
+    /// timer on: a running copy is only stopped.
+    void timerPrimoPiano();
     void cmdUscita();
     void cmdRiavvia();
     void cmdSpegni();
@@ -30,6 +33,7 @@ private:
     ContestoConsole& c_;
     Timer& Timer1_;
     std::unique_ptr<Timer> timerBottoni_;
+    std::unique_ptr<Timer> timerPrimoPiano_;
 };
 
 } // namespace lumigrafo

@@ -3,6 +3,7 @@
 #include "console/codice_scontrino.h"
 #include "console/testi.h"
 #include "console/ultimi_chiamati.h"
+#include "platform/guasto.h"
 
 #include <chrono>
 
@@ -90,7 +91,11 @@ bool Scansione::trovaCella(std::int16_t quadrante, const std::string& testo) {
 }
 
 void Scansione::chiama(std::int16_t quadrante, const std::string& sigla, const std::string& numero) {
-    const std::string testo = FormattaNumero(sigla, numero);
+    std::string testo;
+    if (!ignorandoGuasti([&] { testo = FormattaNumero(sigla, numero); })) {
+        MostraEsitoBarCode(false, "BarCode errato!"); // a number beyond any order's
+        return;
+    }
     // The mode isn't asked for: a scan always calls. A number that isn't in the grid goes on the board all
     // the same, without strike-off, list entry and receipt.
     const bool trovato = trovaCella(quadrante, testo);

@@ -88,6 +88,20 @@ INSTANTIATE_TEST_SUITE_P(
              Rettangolo{28800, 300, 28800, 15900}}),
     [](const auto& caso) { return caso.param.nome; });
 
+TEST(Sagoma, AMachineWithoutDisplaySettingsSaysSo) {
+    CartellaTemporanea cartella;
+    const Ambiente ambiente{cartella.percorso(), "", ""};
+    PompaFinta pompa;
+    AvvisiFinti avvisi;
+    MessaggiFinti messaggi;
+    DesktopFinto desktop;
+    desktop.capace = false;
+    SchermiFinti schermi;
+    schermi.schermi = {{kPrimario, kPrimario, true}};
+    Sagoma({ambiente, pompa, avvisi, messaggi, schermi, desktop}, kPrimario).attiva();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U);
+}
+
 TEST(Sagoma, ANoLeavesEverythingAsItIs) {
     CartellaTemporanea cartella;
     const Ambiente ambiente{cartella.percorso(), "", ""};

@@ -19,6 +19,7 @@ TEST(Bottoni, ThePanelGoesAwayByItself) {
     EXPECT_TRUE(pannello.Visible());
     b.timers.avanza(1ms);
     EXPECT_FALSE(pannello.Visible());
+    EXPECT_TRUE(b.processi.avviati.empty()); // the companion program is never started
     for (const char* chiude : {"cmdChiudi", "fraBottoni", "cmdLumigrafo", "cmdAggiorna", "cmdModalita"}) {
         b.console().clic("cmdAllarga", kSenzaIndice);
         b.console().clic(chiude, 0);

@@ -77,8 +77,7 @@ TEST_F(Scansioni, BadCodesAreRefusedInTheirWordsAndChangeNothing) {
         {"1", "BarCode errato! Lunghezza errata."},
         {"5986501001233", "BarCode errato!"},
         {"599650100A233", "BarCode errato!"},
-        {"5996501999993", "BarCode errato!"}, // beyond any order's number
-        {"599000009E099", "BarCode errato!"},
+        {"5996501999993", "Categoria 1 non corretta, controllare le impostazioni: 01"},
         {"5996502001233", "Categoria 1 non corretta, controllare le impostazioni: 02"},
     };
     b.imposta("Categoria1", 2);
@@ -93,6 +92,11 @@ TEST_F(Scansioni, BadCodesAreRefusedInTheirWordsAndChangeNothing) {
         EXPECT_EQ(c("fraMessaggio").BackColor(), Colore(4079359));
         EXPECT_EQ(c("lblMessaggioBarCode").FontSize(), std::string(caso.messaggio).size() > 30 ? 50 : 80);
         EXPECT_EQ(c("lblMessaggioBarCode").Left(), c("picErrore").Left() + c("picErrore").Width() + 100);
+    }
+    b.console().stato().Categoria = {1, 0, 0, 0};
+    for (const char* oltre : {"5996501999993", "599000009E099"}) { // numbers beyond any order's
+        scandisci(oltre);
+        EXPECT_EQ(c("lblMessaggioBarCode").Caption(), "BarCode errato!");
     }
     EXPECT_THAT(b.posti(0), Each(""));
     EXPECT_FALSE(std::filesystem::exists(b.ultimi.file()));

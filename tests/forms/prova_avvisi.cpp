@@ -47,8 +47,16 @@ TEST(Avvisi, DiconoEsattamenteCioCheDevono) {
     EXPECT_EQ(rispondi(domanda, [](QMessageBox& box) { premi(box, "No"); }), Risposta::No);
     EXPECT_EQ(rispondi(domanda, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
               Risposta::No);
-    EXPECT_EQ(rispondi(domanda, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); }),
-              Risposta::Si);
+    EXPECT_EQ(rispondi(domanda,
+                       [](QMessageBox& box) {
+                           QWidget* chi = box.focusWidget() ? box.focusWidget() : &box;
+                           QTest::keyClicks(chi,
+                                            QStringLiteral("5996501001233")); // a receipt is scanned over it
+                           QTest::keyClick(chi, Qt::Key_Return);
+                           EXPECT_TRUE(box.isVisible());
+                           premi(box, "No");
+                       }),
+              Risposta::No);
     EXPECT_EQ(rispondi({"Fatto", "", Icona::Critica, Bottoni::Ok},
                        [](QMessageBox& box) {
                            EXPECT_EQ(box.windowTitle(), QStringLiteral("Lumigrafo"));
@@ -59,9 +67,10 @@ TEST(Avvisi, DiconoEsattamenteCioCheDevono) {
 }
 
 TEST(Avvisi, UnTestoLungoSiLeggeTutto) {
-    const Avviso lungo{"Errore di collegamento al database /srv/cassa/condivisa/della/festa/archivio.mdb\r\n\r\nPING SU "
-                       "192.168.1.10 NON RIUSCITO",
-                       "", Icona::Esclamazione, Bottoni::Ok};
+    const Avviso lungo{
+        "Errore di collegamento al database /srv/cassa/condivisa/della/festa/archivio.mdb\r\n\r\nPING SU "
+        "192.168.1.10 NON RIUSCITO",
+        "", Icona::Esclamazione, Bottoni::Ok};
     rispondi(lungo, [](QMessageBox& box) {
         const auto* testo = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
         ASSERT_NE(testo, nullptr);

@@ -1,8 +1,11 @@
 #include "boards/qt/finestra_videata_qt.h"
 
+#include "boards/modulo_monitor.h"
 #include "forms/qt/finestra.h"
+#include "platform/qt/schermi_qt.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace lumigrafo {
@@ -28,6 +31,7 @@ public:
 
 private:
     Finestra* finestra_; ///< deletes itself once its last event is over
+    std::optional<Rettangolo> chiesto_;
 };
 
 FinestraVideataQt::FinestraVideataQt(const std::shared_ptr<Controlli>& controlli, EventiFinestra eventi)
@@ -65,12 +69,17 @@ void FinestraVideataQt::riduci(bool ridotta) {
     finestra_->setWindowState(ridotta ? Qt::WindowMinimized : Qt::WindowNoState);
 }
 
+/// A window manager pulls a window back that was put where no monitor is. Its place is still the one that was
+/// asked for: the monitor may be there again at the next start.
 Rettangolo FinestraVideataQt::posto() const {
+    if (chiesto_ && !monitorDi(SchermiQt(), *chiesto_))
+        return *chiesto_;
     const QRect r = finestra_->geometry();
     return {aTwip(Pixel(r.x())), aTwip(Pixel(r.y())), aTwip(Pixel(r.width())), aTwip(Pixel(r.height()))};
 }
 
 void FinestraVideataQt::posto(const Rettangolo& r) {
+    chiesto_ = r;
     finestra_->setGeometry(aPixel(r.left).v, aPixel(r.top).v, std::max(1, aPixel(r.width).v),
                            std::max(1, aPixel(r.height).v));
 }

@@ -12,7 +12,7 @@ namespace lumigrafo {
 
 /// A push button with a text, a picture or both: the picture at the left where the button is wide, else above
 /// the text. A touch doesn't take the focus away from the field that a scanner types into; the tabulator
-/// reaches it, and then the space bar and Enter press it.
+/// reaches it, and then the space bar presses it.
 class BottoneWidget final : public QAbstractButton, public Vista {
 public:
     explicit BottoneWidget(QWidget* padre);

@@ -145,6 +145,8 @@ void DesktopFinto::estendi() {
 
 void DesktopFinto::apriImpostazioni(const std::filesystem::path& comandi) {
     annota(diario_, "impostazioni schermo " + comandi.filename().string());
+    if (!capace)
+        throw Guasto(guasti::kFileNonTrovato);
 }
 
 void UscitaFinta::termina(int codice) {

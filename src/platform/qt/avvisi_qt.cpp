@@ -27,6 +27,7 @@ QMessageBox::Icon icona(Icona i) {
 QPushButton* bottone(QMessageBox& box, const QString& testo, QMessageBox::ButtonRole ruolo) {
     QPushButton* b = box.addButton(testo, ruolo);
     b->setObjectName(testo);
+    b->setAutoDefault(false);
     return b;
 }
 
@@ -51,7 +52,8 @@ Risposta AvvisiQt::chiedi(const Avviso& avviso) {
     const bool domanda = avviso.bottoni == Bottoni::SiNo;
     QPushButton* primo = domanda ? bottone(box, QStringLiteral("Sì"), QMessageBox::YesRole)
                                  : bottone(box, QStringLiteral("OK"), QMessageBox::AcceptRole);
-    box.setDefaultButton(primo);
+    if (!domanda)
+        box.setDefaultButton(primo); // a question has none: a scanner's Enter must not answer it
     box.setEscapeButton(domanda ? bottone(box, QStringLiteral("No"), QMessageBox::NoRole) : primo);
     box.exec();
     if (!domanda)
