@@ -1,0 +1,75 @@
+#include "tests/console/banco.h"
+#include "tests/e2e/durata.h"
+#include "tests/e2e/registro.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace lumigrafo::prova {
+namespace {
+
+constexpr unsigned kSeme = 20260315;
+constexpr int kScrittureAlSecondo = 60;
+
+std::string codice(int quadrante, const std::string& cella) {
+    const std::string numero = cella.substr(3);
+    return "599" + std::to_string(static_cast<int>(cella[0])) + "0" + std::to_string(quadrante + 1) +
+           std::string(5 - numero.size(), '0') + numero + "0\r";
+}
+
+/// The console's logic on a real archive that a second process writes to all the while.
+TEST(Carico, chiamaEDepennaMentreUnAltroProcessoScrive) {
+    Banco b;
+    for (int q = 0; q < 3; ++q)
+        b.imposta(("Categoria" + std::to_string(q)).c_str(), q + 1);
+    b.imposta("NumeroMassimoRighe", 4000);
+    b.caricata();
+    Registro registro(b.cartella.percorso() / "archivio.mdb", b.archivio.dataCompetenza, kScrittureAlSecondo,
+                      kSeme);
+    std::mt19937 caso(kSeme);
+    int ricostruzioni = 0;
+    const auto ricostruisci = [&] {
+        const auto prima = registro.primaDiRicostruire();
+        b.console().clic("cmdAggiorna", -1);
+        ++ricostruzioni;
+        for (int q = 0; q < 3; ++q)
+            ASSERT_EQ(registro.controllaGriglia(prima, q, b.celle(q)), "") << "quadrant " << q;
+    };
+    const auto chiama = [&](int q) {
+        const auto celle = b.celle(q);
+        if (celle.empty())
+            return;
+        const std::string cella = celle[caso() % celle.size()];
+        if (cella.empty())
+            return;
+        registro.chiama(q, cella);
+        if (caso() % 3 == 0)
+            for (const char tasto : codice(q, cella))
+                (void)b.console().tasto(static_cast<unsigned char>(tasto));
+        else
+            b.clic(q, cella);
+        registro.chiamato(q, cella);
+        ASSERT_EQ(b.posti(q)[2], cella.substr(0, 2) + cella.substr(3));
+    };
+
+    const auto fine = std::chrono::steady_clock::now() + durataCarico();
+    while (std::chrono::steady_clock::now() < fine && !HasFatalFailure()) {
+        ASSERT_TRUE(registro.attendi());
+        if (caso() % 4 == 0) // about as many as come in, so that the queue stays long
+            chiama(static_cast<int>(caso() % 3));
+        ricostruisci();
+        b.diario.clear();
+    }
+    ASSERT_TRUE(registro.ferma());
+    ricostruisci();
+    EXPECT_EQ(registro.controllaArchivio(b.archivio), "");
+    std::printf("%d writes (%.0f a second), %d calls, %d of them at the same time as a cancellation, "
+                "%d rebuilds\n",
+                registro.scritture(), registro.scrittureAlSecondo(), registro.chiamate(), registro.incerte(),
+                ricostruzioni);
+    EXPECT_GT(registro.scrittureAlSecondo(), 20) << "too little load to show anything";
+    EXPECT_GT(registro.chiamate(), 20);
+}
+
+} // namespace
+} // namespace lumigrafo::prova

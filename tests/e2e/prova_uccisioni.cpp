@@ -1,0 +1,143 @@
+#include "settings/ini/ini.h"
+#include "tests/e2e/modello.h"
+#include "tests/e2e/processo.h"
+#include "tests/sostegno/archivio_prova.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <random>
+#include <sstream>
+#include <thread>
+
+namespace lumigrafo::prova {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr unsigned kSeme = 20260315;
+constexpr int kUccisioni = 50;
+
+struct Chiamata {
+    std::size_t quadrante = 0;
+    std::string cella;
+};
+
+/// A console killed again and again in the middle of its work, on one folder.
+class Uccisioni : public testing::Test {
+protected:
+    CartellaTemporanea cartella;
+    ArchivioProva archivio{cartella.percorso() / "archivio.mdb"};
+    StatoSalvato prima;             ///< what the last kill left
+    std::vector<Chiamata> chiamate; ///< of this round; the last one may have been cut short
+    bool intera = true;             ///< it wasn't
+    int numero = 0;                 ///< of the last order
+
+    void SetUp() override {
+        const FileIni ini(cartella.percorso() / kFileImpostazioni);
+        for (int q = 0; q < 3; ++q)
+            ini.ScriviIni(kSezioneImpostazioni, "Categoria" + std::to_string(q), q + 1);
+        ini.ScriviIni(kSezioneImpostazioni, "NumeroMassimoRighe", 400);
+    }
+
+    /// Orders for more calls than a round can make; every third one is open in two quadrants.
+    void ordini() {
+        while (std::stoi(archivio.leggi("SELECT count(*) FROM Lumigrafo")) < 150) {
+            ++numero;
+            const int categoria = numero % 3 + 1;
+            if (numero % 9 == 0)
+                archivio.ordine("A", numero, {{categoria, 1}, {categoria % 3 + 1, 2}});
+            else
+                archivio.ordine("A", numero, {{categoria, 1}});
+        }
+    }
+
+    /// The console starts with what the files hold.
+    void iniziaCon(Processo& operatore) {
+        for (std::size_t q = 0; q < 3; ++q) {
+            std::string attesi = "posti|" + std::to_string(q);
+            for (const std::string& posto : prima.posti[q])
+                attesi += "|" + posto;
+            ASSERT_EQ(operatore.riga(10s), attesi);
+        }
+    }
+
+    void annota(const std::string& uscita) {
+        std::istringstream righe(uscita);
+        chiamate.clear();
+        intera = true;
+        for (std::string riga; std::getline(righe, riga);) {
+            intera = riga == "fatto";
+            if (!intera)
+                chiamate.push_back({static_cast<std::size_t>(riga.at(7) - '0'), riga.substr(9)});
+        }
+    }
+
+    void controllaFile() {
+        StatoSalvato stato = prima;
+        for (std::size_t i = 0; i + 1 < chiamate.size(); ++i)
+            stato = stato.dopo(chiamate[i].quadrante, chiamate[i].cella);
+        const StatoSalvato trovato = StatoSalvato::leggi(cartella.percorso());
+        if (!chiamate.empty()) {
+            const auto possibili = stato.durante(chiamate.back().quadrante, chiamate.back().cella);
+            if (intera)
+                stato = possibili.back();
+            else if (std::find(possibili.begin(), possibili.end(), trovato) != possibili.end())
+                stato = trovato;
+        }
+        ASSERT_EQ(trovato.testo(), stato.testo()) << "no state of the run";
+        prima = trovato;
+    }
+
+    void controllaArchivio() {
+        ASSERT_EQ(archivio.leggi("PRAGMA integrity_check"), "ok");
+        for (std::size_t i = 0; i + (intera ? 0 : 1) < chiamate.size(); ++i) {
+            const std::string chi = "Numero = " + chiamate[i].cella.substr(3);
+            const std::string categoria = std::to_string(chiamate[i].quadrante + 1);
+            ASSERT_EQ(archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE " + chi), "-1") << chi;
+            ASSERT_EQ(archivio.leggi("SELECT count(*) FROM Lumigrafo WHERE Categoria" + categoria +
+                                     " <> 0 AND " + chi),
+                      "0")
+                << chi;
+        }
+        // No order is gone from the queue of which nothing was called.
+        ASSERT_EQ(archivio.leggi("SELECT count(*) FROM ScontriniEmessi s WHERE Servito = 0 AND NOT EXISTS "
+                                 "(SELECT 1 FROM Lumigrafo l WHERE l.Numero = s.Numero)"),
+                  std::to_string(persi))
+            << "an order was lost";
+    }
+    int persi = 0; ///< orders taken off the queue whose receipt a kill kept from being marked
+};
+
+TEST_F(Uccisioni, lascianoSempreUnoStatoDellaCorsa) {
+    std::mt19937 caso(kSeme);
+    std::size_t totale = 0, tagliate = 0;
+    for (int giro = 0; giro < kUccisioni; ++giro) {
+        SCOPED_TRACE("seed " + std::to_string(kSeme) + ", round " + std::to_string(giro));
+        ordini();
+        Processo operatore({OPERATORE, cartella.percorso().string()});
+        iniziaCon(operatore);
+        std::this_thread::sleep_for(std::chrono::microseconds(caso() % 60000)); // any instant of its work
+        operatore.uccidi();
+        annota(operatore.resto());
+        totale += chiamate.size();
+        tagliate += intera ? 0 : 1;
+        ASSERT_NO_THROW(controllaFile());
+        // The strike-off and the receipt's mark are statements of their own: a kill can fall between them.
+        if (!intera &&
+            archivio.leggi("SELECT count(*) FROM Lumigrafo l JOIN ScontriniEmessi s USING (Numero) "
+                           "WHERE Numero = " +
+                           chiamate.back().cella.substr(3)) == "0")
+            persi += archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE Numero = " +
+                                    chiamate.back().cella.substr(3)) == "0";
+        controllaArchivio();
+        if (HasFatalFailure())
+            return;
+    }
+    std::printf("%zu calls, %zu of them cut short, %d between strike-off and receipt\n", totale, tagliate,
+                persi);
+    EXPECT_GT(tagliate, kUccisioni / 2U) << "the kills missed the work";
+}
+
+} // namespace
+} // namespace lumigrafo::prova
