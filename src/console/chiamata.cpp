@@ -149,10 +149,8 @@ void Chiamata::AggiornaGridDB(const std::string& sigla, const std::string& numer
     if (trovato)
         svuotaCella(index, r, k);
     caricatore_.ChiudiRsLumigrafo();
-    if (trovato) {
-        AggiornaDBLumigrafoCucina(c_.stato, c_.porte.orologio, sigla, numero, index, kVero);
+    if (trovato)
         togliRigaVuota(index, r);
-    }
     c_.cedi("AggiornaGridDB/8");
 }
 
@@ -161,11 +159,13 @@ bool Chiamata::depenna(const std::string& sigla, const std::string& numero, std:
     if (!rs.Start("AggiornaGridDB", "Sigla", "=", "'" + sigla + "'", "Numero", "=", numero))
         return false;
     try {
-        // One transaction: an order that a cash desk opens again meanwhile isn't deleted with its old state.
+        // One transaction: an order that a cash desk opens again meanwhile isn't deleted with its old state,
+        // and a power cut can't leave an order off the queue whose receipt is never marked served.
         Transazione transazione(*c_.stato.Ws);
         chiudiCategorie(rs.ilRecordset(), index);
         if (!categorieAperte(rs.ilRecordset()))
             rs.ilRecordset().Delete();
+        AggiornaDBLumigrafoCucina(c_.stato, c_.porte.orologio, sigla, numero, index, kVero);
         transazione.conferma();
         return true;
     } catch (const Guasto& guasto) {
