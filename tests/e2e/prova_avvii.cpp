@@ -69,6 +69,10 @@ const Caso kCasi[] = {
      }},
 };
 
+void PrintTo(const Caso& caso, std::ostream* out) {
+    *out << caso.nome;
+}
+
 class Avvii : public testing::TestWithParam<Caso> {};
 
 /// The voice log is emptied once the grids stand; from there the program must live on, with its board.
