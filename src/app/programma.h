@@ -6,7 +6,9 @@
 #include "console/dati_stato.h"
 #include "console/pompa_console.h"
 #include "console/qt/frmGestione.h"
+#include "links/collegamento_android.h"
 #include "platform/linux/alimentazione.h"
+#include "platform/linux/cliente_tcp.h"
 #include "platform/linux/desktop.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
@@ -52,7 +54,9 @@ private:
     VoceQt voce_;
     AnnunciatoreVocale annunciatore_;
     FiscaleAssente fiscale_;
-    LumigrafiAssenti android_;
+    ClienteTcpLinux rete_;
+    CollegamentoAndroid android_{FileIni(ambiente_.file(kFileImpostazioni)), dati_, orologio_, rete_,
+                                 notifiche_};
     ServerAssente server_;
     frmGestione finestra_;
     SceltaFileQt sceltaFile_{finestra_};

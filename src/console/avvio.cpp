@@ -1,6 +1,7 @@
 #include "console/avvio.h"
 
 #include "console/dialogo.h"
+#include "links/collegamento_android.h"
 #include "platform/conversioni.h"
 #include "platform/guasto.h"
 
@@ -149,12 +150,8 @@ void Avvio::togliVideataVecchia() {
 }
 
 void Avvio::leggiAndroid() {
-    for (std::size_t i = 0; i < c_.stato.IpDroid.size(); ++i) {
-        const std::string cifra = std::to_string(i);
-        c_.stato.IpDroid[i] = {
-            c_.impostazioni.LeggiIni(kSezioneAndroid, "IpLumDroid" + cifra),
-            aIntero16(c_.impostazioni.LeggiIni(kSezioneAndroid, "FontGruppiDroid" + cifra, 0))};
-    }
+    for (std::size_t i = 0; i < c_.stato.IpDroid.size(); ++i)
+        c_.stato.IpDroid[i] = leggiLumigrafoAndroid(c_.impostazioni, i);
 }
 
 void Avvio::attiva() {

@@ -3,11 +3,13 @@
 #include "announce/annunciatore_vocale.h"
 #include "boards/scheda.h"
 #include "console/stato.h"
+#include "links/collegamento_android.h"
+#include "platform/guasto.h"
 
 namespace lumigrafo {
 
-/// What boards and voice see of the console's running state.
-class DatiDaStato final : public DatiConsole, public DatiVoce {
+/// What boards, voice and Android link see of the console's running state.
+class DatiDaStato final : public DatiConsole, public DatiVoce, public DatiAndroid {
 public:
     explicit DatiDaStato(StatoConsole& stato) : s_(stato) {}
 
@@ -21,6 +23,13 @@ public:
     [[nodiscard]] std::int16_t VelocitaVocale() const override { return s_.VelocitaVocale; }
     [[nodiscard]] std::int16_t VolumeVocale() const override { return s_.VolumeVocale; }
     [[nodiscard]] bool& VoceAttiva() override { return s_.VoceAttiva; }
+    [[nodiscard]] bool Lumigrafo9Numeri() const override { return s_.Lumigrafo9Numeri; }
+    [[nodiscard]] LumigrafoAndroid& IpDroid(std::size_t i) override { return s_.IpDroid.at(i); }
+    [[nodiscard]] std::string scritta(const std::string& etichetta, int indice) override {
+        if (!s_.frmVideata)
+            throw Guasto(guasti::kOggettoMancante);
+        return s_.frmVideata->controlli()(etichetta, indice).Caption();
+    }
 
 private:
     StatoConsole& s_;

@@ -3,6 +3,7 @@
 #include "boards/videata.h"
 #include "data/dao.h"
 #include "forms/griglia.h"
+#include "links/collegamenti.h"
 #include "platform/orologio.h"
 
 #include <array>
@@ -17,12 +18,6 @@ inline constexpr int kQuadranti = 3;
 inline constexpr int kCategorie = 10;
 /// Called numbers kept of each quadrant.
 inline constexpr int kUltimi = 11;
-
-/// Address and font size of one Android board.
-struct LumigrafoAndroid {
-    std::string Ip; ///< empty: no such board
-    std::int16_t Font = 0;
-};
 
 /// The running state that the console's routines share. The program owns it; each routine holds a
 /// reference.

@@ -1,8 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace lumigrafo {
+
+/// Address and font size of one Android board.
+struct LumigrafoAndroid {
+    std::string Ip; ///< empty: no such board
+    std::int16_t Font = 0;
+};
 
 /// The Android boards, as the console uses them.
 class LumigrafiAndroid {
@@ -11,12 +18,6 @@ public:
     /// Pushes the whole state of the board. `last`: the quadrant that changed (0..2), or -1 to reset the
     /// boards.
     virtual void SincronizzaLumAndroid(std::int16_t last) = 0;
-};
-
-/// For a station without Android boards.
-class LumigrafiAssenti : public LumigrafiAndroid {
-public:
-    void SincronizzaLumAndroid(std::int16_t) override {}
 };
 
 /// The server that cash desks ask for the next number.

@@ -1,5 +1,6 @@
 #include "platform/qt/aspetto.h"
 #include "platform/qt/avvisi_qt.h"
+#include "platform/qt/notifiche_qt.h"
 #include "platform/qt/schermi_qt.h"
 
 #include <QAbstractButton>
@@ -8,7 +9,9 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <vector>
 
 using namespace lumigrafo;
 
@@ -86,6 +89,38 @@ TEST(Schermi, UnoSoloEPrimarioEInTwip) {
     EXPECT_TRUE(schermi[0].primario);
     EXPECT_EQ(schermi[0].tutto,
               (Rettangolo{0, 0, 800 * 15, 800 * 15})); // the display without a screen is 800 wide
+}
+
+std::vector<QLabel*> notificheInVista() {
+    std::vector<QLabel*> tutte;
+    for (QWidget* finestra : QApplication::topLevelWidgets())
+        if (finestra->objectName() == QStringLiteral("notifica") && finestra->isVisible())
+            tutte.push_back(qobject_cast<QLabel*>(finestra));
+    std::sort(tutte.begin(), tutte.end(), [](auto* a, auto* b) { return a->y() < b->y(); });
+    return tutte;
+}
+
+TEST(Notifiche, StannoUnaSopraLAltraSenzaPrendereLaTastiera) {
+    NotificheQt notifiche;
+    for (const char* ip : {"1", "2", "3", "2", "4", "5"})
+        notifiche.NotificaPopup(std::string("Errore connessione a lumigrafo con IP = 10.0.0.") + ip);
+    QCoreApplication::processEvents();
+    const auto tutte = notificheInVista();
+    QString ordine;
+    for (std::size_t i = 0; i < tutte.size(); ++i) {
+        ordine += tutte[i]->text().back();
+        EXPECT_TRUE(tutte[i]->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        EXPECT_GT(tutte[i]->y(), i == 0 ? 0 : tutte[i - 1]->geometry().bottom());
+    }
+    EXPECT_EQ(ordine, QStringLiteral("3245")); // four of them, and none that says the same twice
+    ASSERT_FALSE(tutte.empty());
+    EXPECT_EQ(tutte.front()->text(),
+              QStringLiteral("DEMONE LUMIGRAFO CUCINA\n\nErrore connessione a lumigrafo con IP = 10.0.0.3"));
+    QTest::mouseClick(tutte.front(), Qt::LeftButton);
+    EXPECT_EQ(notificheInVista().size(), 3u);
+    for (QLabel* resto : notificheInVista())
+        resto->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 } // namespace

@@ -44,8 +44,11 @@ protected:
 
 } // namespace
 
-void NotificheQt::NotificaPopup(const std::string& testo) {
-    auto* nuova = new Notifica(QString::fromStdString(testo));
+void NotificheQt::mostra(const std::string& testo) {
+    const QString righe = QString::fromStdString(testo).remove(u'\r');
+    // Else one board that is off would fill the corner in a busy hour.
+    aperte_.removeIf([&](const QPointer<QLabel>& n) { return n && n->text() == righe && n->close(); });
+    auto* nuova = new Notifica(righe);
     QTimer::singleShot(kDurataMs, nuova, &QWidget::close);
     QObject::connect(nuova, &QObject::destroyed, [this] { impila(); });
     aperte_.append(nuova);
@@ -60,7 +63,8 @@ void NotificheQt::impila() {
     aperte_.removeIf([](const QPointer<QLabel>& n) { return n.isNull(); });
     const QRect lavoro = QGuiApplication::primaryScreen()->availableGeometry();
     int piede = lavoro.bottom() - kMargine;
-    for (const auto& n : aperte_) {
+    for (qsizetype i = aperte_.size(); i-- > 0;) {
+        QLabel* const n = aperte_[i];
         n->move(lavoro.right() - kMargine - n->width(), piede - n->height());
         piede -= n->height() + kMargine / 2;
     }
