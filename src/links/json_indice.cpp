@@ -87,6 +87,7 @@ void IndiceNomi::aggiungi(std::uint32_t impronta) {
 
 void IndiceNomi::allarga(std::size_t nomi) {
     caselle_.assign(std::bit_ceil(nomi * 4), 0);
+    impronte_.reserve(caselle_.size() / 2);
     for (std::size_t posto = 0; posto < impronte_.size(); ++posto)
         inserisci(posto);
 }

@@ -40,7 +40,7 @@ char* scriviBreve(char* dove, double valore) {
     constexpr double kLimite = kIntero15Cifre / kScalaBreve;
     if (!(std::fabs(valore) < kLimite))
         return nullptr;
-    const auto scalato = static_cast<std::int64_t>(std::round(valore * kScalaBreve));
+    const auto scalato = static_cast<std::int64_t>(valore * kScalaBreve + (valore < 0 ? -0.5 : 0.5));
     if (static_cast<double>(scalato) / kScalaBreve != valore)
         return nullptr;
     const std::int64_t positivo = scalato < 0 ? -scalato : scalato;
@@ -74,11 +74,12 @@ std::optional<double> doppioDaTesto(std::string_view testo) {
 }
 
 char* scriviNumero(char* dove, double valore) {
+    if (std::fabs(valore) < kIntero15Cifre)
+        if (const auto intero = static_cast<std::int64_t>(valore); static_cast<double>(intero) == valore)
+            return std::to_chars(dove, dove + kMassimoNumero, intero).ptr;
     if (char* const breve = scriviBreve(dove, valore))
         return breve;
     char* const fine = dove + kMassimoNumero;
-    if (std::fabs(valore) < kIntero15Cifre && valore == std::trunc(valore))
-        return std::to_chars(dove, fine, static_cast<std::int64_t>(valore)).ptr;
     if (std::fabs(valore) > kLimite15Cifre)
         return std::to_chars(dove, fine, valore, std::chars_format::scientific).ptr;
     return std::to_chars(dove, fine, valore, std::chars_format::general, 15).ptr;

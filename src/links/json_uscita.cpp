@@ -62,22 +62,53 @@ char* scriviNascosto(char* dove, char32_t c) {
     return scriviUnita(dove, 0xDC00 + ((c - 0x10000) & 0x3FF));
 }
 
-/// Bytes in `parola` that can't be taken over as they are.
+/// The mask (see otto) of the bytes in `parola` that can't be taken over as they are: beyond ASCII, controls,
+/// the last of ASCII, quotes and backslashes. Each term is right below 128, and the first one has the rest.
 constexpr std::uint64_t particolari(std::uint64_t parola) {
-    return (parola & otto::kAlti) | otto::minoriDi(parola, 0x20) | otto::ugualiA(parola, '"') |
-           otto::ugualiA(parola, '\\') | otto::ugualiA(parola, 0x7F);
+    using otto::kUni;
+    const std::uint64_t virgolette = parola ^ kUni * '"', barre = parola ^ kUni * '\\';
+    return (parola | (parola - kUni * 0x20) | (parola + kUni) | (virgolette - kUni) | (barre - kUni)) &
+           otto::kAlti;
 }
 
-/// Takes plain characters over, eight at a time where it can; both ends step forwards.
+/// Takes over eight characters, or those before the first that isn't plain, and returns false then. Both ends
+/// step forwards.
+bool copiaOtto(char*& dove, const char*& da) {
+    const std::uint64_t parola = otto::leggi(da);
+    std::memcpy(dove, &parola, sizeof parola);
+    const std::uint64_t fermo = particolari(parola);
+    const int presi = fermo == 0 ? 8 : otto::primo(fermo);
+    da += presi;
+    dove += presi;
+    return fermo == 0;
+}
+
+/// Takes over four to seven characters, if all are plain.
+bool copiaPochi(char*& dove, const char*& da, const char* fine) {
+    std::uint32_t prime, ultime; // they overlap
+    std::memcpy(&prime, da, sizeof prime);
+    std::memcpy(&ultime, fine - sizeof ultime, sizeof ultime);
+    if (particolari(prime | std::uint64_t{ultime} << 32) != 0)
+        return false;
+    std::memcpy(dove, &prime, sizeof prime);
+    dove += fine - da;
+    da = fine;
+    std::memcpy(dove - sizeof ultime, &ultime, sizeof ultime);
+    return true;
+}
+
+/// Takes over plain characters; both ends step forwards.
 void copiaPiani(char*& dove, const char*& da, const char* fine) {
-    for (; fine - da >= 8; da += 8, dove += 8) {
-        const std::uint64_t parola = otto::leggi(da);
-        std::memcpy(dove, &parola, sizeof parola);
-        if (const std::uint64_t fermo = particolari(parola)) {
-            da += otto::primo(fermo);
-            dove += otto::primo(fermo);
-            break;
-        }
+    const std::ptrdiff_t quanti = fine - da;
+    bool piani = true;
+    while (piani && fine - da >= 8)
+        piani = copiaOtto(dove, da);
+    if (piani && da < fine && quanti >= 8) { // the last eight overlap with those before
+        dove -= 8 - (fine - da);
+        da = fine - 8;
+        piani = copiaOtto(dove, da);
+    } else if (quanti >= 4 && quanti < 8) {
+        copiaPochi(dove, da, fine);
     }
     for (; da < fine; ++da) {
         const auto c = static_cast<unsigned char>(*da);
