@@ -56,10 +56,10 @@ avvia_programma() {
   console=$(finestra "$pid" Lumigrafo)
 }
 
-# The board has no title; it lies on the second monitor.
+# The board has no title that could be read; it lies on the second monitor.
 ha_tabellone() {
   local w X=0
-  for w in $(xdotool search --all --onlyvisible --pid "$pid" --name '^$'); do
+  for w in $(xdotool search --all --onlyvisible --pid "$pid" --name '^[^a-zA-Z]*$'); do
     eval "$(xdotool getwindowgeometry --shell "$w" | grep '^X=')"
     [ "$X" -lt 1920 ] || return 0
   done

@@ -29,6 +29,8 @@ constexpr std::array<Descrizione, 5> lettere() {
         righe[i] = scritta("lblCassa", static_cast<int>(i), kPannelli[i], {6195, 195, 2340, 1770}, kGrande,
                            kBianco, kLettere[i]);
         righe[i].inAlto = true;
+        // Away from "Cassa", which with two desks fills its label.
+        righe[i].allineamento = Allineamento::Destra;
     }
     return righe;
 }
@@ -49,7 +51,7 @@ constexpr std::array<Descrizione, 3> kDueRighe{{
     scritta("Label3", kSenzaIndice, "FraMirtolanda2", {150, 1080, 14295, 780}, {"Arial", 24}, rgb(214, 224, 233), kInvito),
 }};
 
-constexpr auto kControlli = unisci(
+constexpr auto kControlli = conMargine(unisci(
     pannelli(),
     perSlot<5>(kPannelli, kCassa),
     lettere(),
@@ -57,7 +59,7 @@ constexpr auto kControlli = unisci(
     pubblicita({15, 6615, 15360, 3645}, false),
     striscia({0, 10755, 15420, 675}, {150, 0, 15120, 675}, 22.5, kInvito),
     kDueRighe,
-    chiudi({14610, 60, 510, 480}));
+    chiudi({14610, 60, 510, 480})));
 // clang-format on
 
 static_assert(layoutValido(kControlli));

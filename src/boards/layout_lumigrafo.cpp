@@ -42,7 +42,8 @@ constexpr std::array<Descrizione, 2> kDopo{{
 }};
 // clang-format on
 
-constexpr auto kControlli = unisci(kPrima, perSlot<3>(kPannelli, kSlot), kDopo, comunicazione(15120, 10395));
+constexpr auto kControlli =
+    conMargine(unisci(kPrima, perSlot<3>(kPannelli, kSlot), kDopo, comunicazione(15120, 10395)));
 static_assert(layoutValido(kControlli));
 
 } // namespace

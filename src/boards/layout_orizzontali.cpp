@@ -27,6 +27,7 @@ constexpr auto file(const Fila<Caselle>& f) {
     std::array<RigaSlot, 5> righe{
         {{scritta("lblTitolo", 0, "", f.reparto, kReparto)},
          {scritta("Label2", 0, "", {13350, 90, 1635, 285}, kIntestazione, kBianco, "Già chiamati")}}};
+    righe[0].disegno.inAlto = true; // so it stands at the middle of its row
     for (int i = 0; i < 3; ++i)
         righe[static_cast<std::size_t>(i) + 2].disegno = scritta(
             etichettaNumero(f.primoPiccolo + i), 0, "", f.piccoli[static_cast<std::size_t>(i)], kPiccolo);
@@ -63,21 +64,21 @@ constexpr Fila<6> kFila9{
     .piccoli = {{{13395, 300, 1500, 640}, {13395, 1155, 1500, 640}, {13365, 2010, 1500, 640}}},
 };
 
-constexpr auto kControlli = unisci(
+constexpr auto kControlli = conMargine(unisci(
     titoloEPannelli({{{30, 930, 15060, 1890}, {30, 2925, 15060, 1890}, {30, 4920, 15060, 1890}}}),
     file(kFila),
     pubblicita({60, 6810, 15015, 3525}),
     striscia({135, 9825, 14805, 540}, {262, 0, 14280, 540}, 18, kMotto),
     chiudi({14610, 60, 510, 480}),
-    comunicazione(15120, 10395));
+    comunicazione(15120, 10395)));
 
-constexpr auto kControlli9 = unisci(
+constexpr auto kControlli9 = conMargine(unisci(
     titoloEPannelli({{{30, 750, 15060, 3120}, {15, 3900, 15060, 3060}, {15, 7035, 15060, 3015}}}),
     file(kFila9),
     pubblicita({30, 6945, 15060, 3645}),
     striscia({30, 10050, 14805, 540}, {262, 0, 14280, 540}, 18, kMotto),
     chiudi({14610, 60, 510, 480}),
-    comunicazione(15120, 10665));
+    comunicazione(15120, 10665)));
 // clang-format on
 
 static_assert(layoutValido(kControlli));

@@ -19,11 +19,11 @@ constexpr std::array<Descrizione, 7> kNumeri{{
     scritta("lblNumero5", 0, "", {14910, 9525, 1500, 915}, kPiccolo),
     scritta("lblNumero6", 0, "", {17235, 9525, 1560, 990}, kPiccolo),
 }};
-constexpr auto kControlli = unisci(
+constexpr auto kControlli = conMargine(unisci(
     kNumeri,
     pubblicita({11250, 1395, 7290, 2985}, false),
     chiudi({18375, 120, 510, 480}),
-    comunicazione(18960, 11535));
+    comunicazione(18960, 11535)));
 // clang-format on
 
 static_assert(layoutValido(kControlli));

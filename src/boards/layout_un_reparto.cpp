@@ -40,7 +40,7 @@ constexpr std::array<Rettangolo, 3> kGrandissime{{
     {5325, 150, 7365, 3420}, {105, 3750, 6930, 3270}, {7800, 3720, 6930, 3270},
 }};
 
-constexpr auto kControlli = unisci(
+constexpr auto kControlli = conMargine(unisci(
     titoloEPannello({75, 60, 14490, 705}, 32.25, {30, 930, 15060, 4530}),
     giaChiamati({4395, 3615, 2565, 495}, 18, 4,
                 {{{7005, 3390, 1500, 900}, {8880, 3390, 1500, 900}, {10770, 3390, 1500, 900}}}, kPiccolo),
@@ -49,7 +49,7 @@ constexpr auto kControlli = unisci(
     pubblicita({60, 5535, 15000, 4815}),
     striscia({120, 9840, 14805, 540}, {262, 0, 14280, 540}, 18, kMotto),
     chiudi({14610, 60, 510, 480}),
-    comunicazione(15120, 10395));
+    comunicazione(15120, 10395)));
 
 constexpr std::array<Descrizione, 3> kPiede{{
     {.tipo = Tipo::Immagine, .nome = "Picture1", .rett = {525, 8760, 1590, 1605}, .figura = "marchio",
@@ -58,7 +58,7 @@ constexpr std::array<Descrizione, 3> kPiede{{
     scritta("Label2", kSenzaIndice, "", {1485, 9525, 13455, 765}, {"Arial", 20.25}, rgb(190, 202, 213),
             "i numeri, chiari a tutti"),
 }};
-constexpr auto kControlli9 = unisci(
+constexpr auto kControlli9 = conMargine(unisci(
     titoloEPannello({75, 60, 14490, 705}, 32.25, {30, 930, 15060, 7815}),
     giaChiamati({4260, 6990, 4230, 615}, 24, 7,
                 {{{8610, 6780, 1860, 900}, {10875, 6780, 1860, 900}, {13140, 6780, 1860, 900}}}, kPiccolo9),
@@ -66,9 +66,9 @@ constexpr auto kControlli9 = unisci(
     numeriNelleCaselle<1>(dentro(kSei, kMargine), kGrande),
     kPiede,
     chiudi({14610, 60, 510, 480}),
-    comunicazione(15120, 10395));
+    comunicazione(15120, 10395)));
 
-constexpr auto kControlliBig = unisci(
+constexpr auto kControlliBig = conMargine(unisci(
     titoloEPannello({60, 60, 14460, 510}, 20.25, {75, 570, 15225, 7275}),
     giaChiamati({12540, 150, 2565, 495}, 18, 4,
                 {{{13320, 540, 1500, 900}, {13290, 1425, 1500, 900}, {13260, 2295, 1500, 900}}}, kPiccolo),
@@ -77,7 +77,7 @@ constexpr auto kControlliBig = unisci(
     pubblicita({75, 135, 5115, 3375}, true, "picPannello(0)"),
     striscia({120, 7320, 14805, 540}, {262, 0, 14280, 540}, 18, kMotto),
     chiudi({14760, 45, 510, 480}),
-    comunicazione(15330, 7890));
+    comunicazione(15330, 7890)));
 // clang-format on
 
 static_assert(layoutValido(kControlli));

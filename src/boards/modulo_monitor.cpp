@@ -16,7 +16,8 @@ double comune(const Rettangolo& a, const Rettangolo& b) {
 }
 
 InfoMonitor info(const Schermo& s) {
-    InfoMonitor i;
+    InfoMonitor i{};
+    i.hMonitor = s.numero;
     i.MonLeft = s.tutto.left;
     i.MonRight = s.tutto.left + s.tutto.width;
     i.MonTop = s.tutto.top;

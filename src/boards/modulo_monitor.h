@@ -2,12 +2,14 @@
 
 #include "platform/schermi.h"
 
+#include <cstdint>
 #include <optional>
 
 namespace lumigrafo {
 
 /// One monitor as the placement looks at it; twips of the desktop.
 struct InfoMonitor {
+    std::int32_t hMonitor; ///< Schermo::numero
     Twip MonLeft, MonRight, MonTop, MonBottom;
     Twip WorkLeft, WorkRight, WorkTop, WorkBottom;
     Twip MonHeight, MonWidth, WorkHeight, WorkWidth;

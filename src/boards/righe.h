@@ -51,6 +51,18 @@ template <std::size_t Slot, std::size_t N>
     return righe;
 }
 
+/// Room at the sides of a number that fills its label.
+inline constexpr Twip kMargineNumero = 90;
+
+/// The rows with that room for their numbers.
+template <std::size_t N>
+[[nodiscard]] constexpr auto conMargine(std::array<Descrizione, N> righe) {
+    for (Descrizione& riga : righe)
+        if (riga.nome.starts_with("lblNumero"))
+            riga.margine = kMargineNumero;
+    return righe;
+}
+
 /// A centred label.
 [[nodiscard]] constexpr Descrizione scritta(std::string_view nome, int indice, std::string_view padre,
                                             Rettangolo rett, const Carattere& carattere,

@@ -3,6 +3,8 @@
 #include "boards/percorsi.h"
 #include "boards/sfoglia_sfondo.h"
 
+#include <system_error>
+
 namespace lumigrafo {
 
 namespace {
@@ -23,8 +25,29 @@ void SchedaPerson::attivata() {
         return;
     const std::string Sfondo = impostazioni().LeggiIni(kSezioneSfondo, kChiaveSfondo);
     // A bare name, written by hand, is a file of the program folder.
-    if (!Sfondo.empty())
-        modulo()("imgSfondo").Figura(testoUtf8(servizi().ambiente.cartella / percorsoUtf8(Sfondo)));
+    if (Sfondo.empty())
+        return;
+    const std::string file = testoUtf8(servizi().ambiente.cartella / percorsoUtf8(Sfondo));
+    if (improntaDi(file) != mostrato_)
+        mostraSfondo(file);
+}
+
+SchedaPerson::Impronta SchedaPerson::improntaDi(const std::string& file) {
+    const std::filesystem::path percorso = percorsoUtf8(file);
+    std::error_code errore;
+    Impronta i{.file = file, .scritto = std::filesystem::last_write_time(percorso, errore)};
+    if (!errore)
+        i.lungo = std::filesystem::file_size(percorso, errore);
+    return errore ? Impronta{.file = file} : i;
+}
+
+void SchedaPerson::mostraSfondo(const std::string& file) {
+    // Taken first: a file that is written over while it is read is read again.
+    const Impronta impronta = improntaDi(file);
+    mostrato_ = {};
+    modulo()("imgSfondo").Figura(file);
+    if (impronta.lungo > 0)
+        mostrato_ = impronta;
 }
 
 void SchedaPerson::DoppioClicSfondo() {
@@ -33,7 +56,7 @@ void SchedaPerson::DoppioClicSfondo() {
         return;
     impostazioni().ScriviIni(kSezioneSfondo, kChiaveSfondo, scelto);
     if (finestra())
-        modulo()("imgSfondo").Figura(scelto);
+        mostraSfondo(scelto);
 }
 
 } // namespace lumigrafo

@@ -86,8 +86,9 @@ public:
     void Sfumatura1(Colore c);
     void Sfumatura2(Colore c);
     /// Picture in the resources by its bare name, or a file's path, which has a separator; empty for none. A
-    /// file is read at each assignment. A view throws Guasto 53 where there is no such file, 481 where it is
-    /// no picture; both name it.
+    /// file is read at each assignment, and shown when it is decoded. A view throws Guasto 53 where there is
+    /// no such file, 481 where it is no picture, at the assignment or, where only the decoding shows that,
+    /// from the event loop; both name it.
     [[nodiscard]] const std::string& Figura() const { return figura_; }
     void Figura(std::string nome);
     [[nodiscard]] Adattamento Adatta() const { return adatta_; }

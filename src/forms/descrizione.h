@@ -52,6 +52,7 @@ struct Descrizione {
     std::string_view nomeAccessibile{}; ///< where the caption doesn't say it
     bool cliccabile = false;            ///< a label, box or picture that takes clicks
     bool inAlto = false;                ///< a label's line stands at its top, not at the middle of its height
+    Twip margine{};                     ///< left free at each side of a label's text
 };
 
 /// One window.

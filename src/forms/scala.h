@@ -2,6 +2,8 @@
 
 #include "forms/descrizione.h"
 
+#include <algorithm>
+
 namespace lumigrafo {
 
 /// A rectangle on the screen, in pixels.
@@ -24,6 +26,8 @@ public:
     [[nodiscard]] int carattere(double punti) const;
     [[nodiscard]] int larghezza(Twip t) const;
     [[nodiscard]] int altezza(Twip t) const;
+    /// What heights grew by over what type grew by: 1 or more.
+    [[nodiscard]] double inPiuInAltezza() const { return std::max(1.0, y_ / x_); }
     /// A width not yet rounded, for those that are summed up.
     [[nodiscard]] double larghezzaEsatta(Twip t) const { return t.v * x_; }
 

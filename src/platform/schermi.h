@@ -2,6 +2,7 @@
 
 #include "platform/misure.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace lumigrafo {
@@ -11,6 +12,8 @@ struct Schermo {
     Rettangolo tutto;  ///< the monitor
     Rettangolo lavoro; ///< less task bars
     bool primario = false;
+    /// What the window system knows it by, from 1; good until the desktop's layout changes.
+    std::int32_t numero = 0;
 };
 
 /// The monitors as they stand now.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "boards/qt/finestra_videata_qt.h"
+#include "forms/qt/immagine.h"
 #include "tests/boards/banco_videata.h"
 
 #include <QApplication>
@@ -32,6 +33,11 @@ public:
 
 inline QWidget* figlio(const QWidget* finestra, std::string_view nome, int indice = kSenzaIndice) {
     return finestra->findChild<QWidget*>(QString::fromStdString(nomeCompleto(nome, indice)));
+}
+
+/// Waits until the file that a picture was told to show is on show. Throws its failure.
+inline void attendiFigura(const QWidget* finestra, std::string_view nome) {
+    dynamic_cast<ImmagineWidget&>(*figlio(finestra, nome)).attendi();
 }
 
 } // namespace lumigrafo::prova

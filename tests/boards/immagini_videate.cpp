@@ -1,4 +1,5 @@
 #include "boards/qt/finestra_videata_qt.h"
+#include "forms/qt/immagine.h"
 #include "platform/qt/applicazione.h"
 #include "platform/qt/avvisi_qt.h"
 #include "platform/qt/caratteri.h"
@@ -119,8 +120,12 @@ bool disegna(const Scena& scena, const std::filesystem::path& cartella, QSize mi
         banco.videata->Lampeggia(cassa, std::to_string(numero++));
     bool fatta = false;
     for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->isVisible() && w->objectName().startsWith(QLatin1String("frm")))
+        if (w->isVisible() && w->objectName().startsWith(QLatin1String("frm"))) {
+            for (QWidget* figlio : w->findChildren<QWidget*>())
+                if (auto* immagine = dynamic_cast<ImmagineWidget*>(figlio))
+                    immagine->attendi();
             fatta = w->grab().save(QString::fromStdString((cartella / scena.file).string() + ".png"));
+        }
     banco.videata.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return fatta;

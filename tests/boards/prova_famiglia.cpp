@@ -19,25 +19,44 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// A picture of one colour in the program folder.
+std::filesystem::path figura(const BancoVideata& banco, const char* nome, QSize misura, QColor tinta) {
+    const auto file = banco.cartella.percorso() / nome;
+    QImage carta(misura, QImage::Format_RGB32);
+    carta.fill(tinta);
+    carta.save(QString::fromStdString(file.string()), "JPG", 95);
+    return file;
+}
+
+/// What of the advertising the public sees.
+enum class Vista { Assente, Nascosta, InVista };
+constexpr Vista A = Vista::Assente, N = Vista::Nascosta, V = Vista::InVista;
+
+/// One board as its users know it, apart from the program's own tables.
 struct Caso {
     TipoVideata tipo;
+    const char* nome;
+    int slot, numeri, grandi;
     const char* carattere; ///< of the big numbers with no settings; empty: the design's own
     double punti;
     const char* piccolo; ///< design font of the smallest numbers
-    bool titolo, reparti, comunicazione, pubblicita, striscia;
-    int scatti; ///< slots whose number blinks at a call
+    int scatti;          ///< slots whose number blinks at a call
+    int rotazione;       ///< seconds of an advertising picture; 0: none
+    Vista pubblicita[2]; ///< with three departments and five desks; with two of each
+    Vista striscia[2];   ///< as the settings don't ask for it, and do
+    bool titolo, reparti, comunicazione;
 };
 
 // clang-format off
 constexpr Caso kCasi[] = {
-    {TipoVideata::frmLumigrafo, "Arial Narrow", 100, "Arial", true, true, true, false, false, 3},
-    {TipoVideata::frmLumigrafooRIZZ, "Arial Blank", 72, "Franklin Gothic Medium Cond", true, true, true, true, true, 3},
-    {TipoVideata::frmLumigrafoOrizz9numeri, "Arial Blank", 72, "Franklin Gothic Medium Cond", true, true, true, true, true, 3},
-    {TipoVideata::frmLumigrafo1Reparto, "Arial Narrow", 100, "Franklin Gothic Medium Cond", true, false, true, true, true, 1},
-    {TipoVideata::frmLumigrafo1Reparto9numeri, "Arial Narrow", 100, "Verdana", true, false, true, false, false, 1},
-    {TipoVideata::frmLumigrafo1RepartoBig, "Arial Narrow", 160, "Franklin Gothic Medium Cond", true, false, true, true, true, 1},
-    {TipoVideata::frmLumigrafoPerson, "", 0, "Franklin Gothic Medium Cond", false, false, true, true, false, 1},
-    {TipoVideata::frmAvantiProssimo, "Arial Narrow", 100, "", false, false, false, true, true, 0},
+    {TipoVideata::frmLumigrafo, "frmLumigrafo", 3, 6, 3, "Arial Narrow", 100, "Arial", 3, 0, {A, A}, {A, A}, true, true, true},
+    {TipoVideata::frmLumigrafooRIZZ, "frmLumigrafooRIZZ", 3, 6, 3, "Arial Blank", 72, "Franklin Gothic Medium Cond", 3, 10, {V, V}, {N, V}, true, true, true},
+    {TipoVideata::frmLumigrafoOrizz9numeri, "frmLumigrafoOrizz9numeri", 3, 9, 6, "Arial Blank", 72, "Franklin Gothic Medium Cond", 3, 10, {N, V}, {N, V}, true, true, true},
+    {TipoVideata::frmLumigrafo1Reparto, "frmLumigrafo1Reparto", 1, 6, 3, "Arial Narrow", 100, "Franklin Gothic Medium Cond", 1, 10, {V, V}, {N, V}, true, false, true},
+    {TipoVideata::frmLumigrafo1Reparto9numeri, "frmLumigrafo1Reparto9numeri", 1, 9, 6, "Arial Narrow", 100, "Verdana", 1, 0, {A, A}, {A, A}, true, false, true},
+    {TipoVideata::frmLumigrafo1RepartoBig, "frmLumigrafo1RepartoBig", 1, 6, 3, "Arial Narrow", 160, "Franklin Gothic Medium Cond", 1, 10, {V, V}, {N, N}, true, false, true},
+    {TipoVideata::frmLumigrafoPerson, "frmLumigrafoPerson", 1, 6, 0, "", 0, "Franklin Gothic Medium Cond", 1, 32, {N, N}, {A, A}, false, false, true},
+    {TipoVideata::frmAvantiProssimo, "frmAvantiProssimo", 5, 1, 1, "Arial Narrow", 100, "", 0, 10, {N, V}, {V, V}, false, false, false},
 };
 // clang-format on
 
@@ -49,6 +68,14 @@ std::string_view nomeNumero(TipoVideata tipo, int n) {
     return avanti(tipo) ? "lblNumero" : etichettaNumero(n);
 }
 
+EtichettaWidget& numero(const QWidget* finestra, const Caso& caso, int n, int slot) {
+    return dynamic_cast<EtichettaWidget&>(*figlio(finestra, nomeNumero(caso.tipo, n), slot));
+}
+
+Vista vista(const QWidget* w) {
+    return !w ? Vista::Assente : w->isVisible() ? Vista::InVista : Vista::Nascosta;
+}
+
 std::map<QString, QRect> geometria(const QWidget* finestra) {
     std::map<QString, QRect> m;
     for (const QWidget* w : finestra->findChildren<QWidget*>())
@@ -56,10 +83,35 @@ std::map<QString, QRect> geometria(const QWidget* finestra) {
     return m;
 }
 
+QSize disegno(BancoVideata& banco) {
+    const Layout& layout = banco.videata->controlli().layout();
+    return {aPixel(layout.larghezza).v, aPixel(layout.altezza).v};
+}
+
+/// Every colour, font and size that a board reads.
+void tutteLeImpostazioni(BancoVideata& banco) {
+    for (int i = 0; i < 3; ++i)
+        for (const auto& [parola, valore] :
+             std::initializer_list<std::pair<const char*, ValoreIni>>{{"ColoreTesto", 255 + i},
+                                                                      {"ColoreSfondo", 5000000 + i},
+                                                                      {"FontTesto", "Verdana"},
+                                                                      {"FontSizeTesto", "90"}})
+            banco.imposta((parola + std::to_string(i)).c_str(), valore);
+    for (const auto& [chiave, valore] :
+         std::initializer_list<std::pair<const char*, ValoreIni>>{{"FontNumeri", "Courier New"},
+                                                                  {"FontSizeNumeri", "133,5"},
+                                                                  {"ColoreNumeriSfondo", 4},
+                                                                  {"ColoreNumeriTesto", 3},
+                                                                  {"TitoloLumigrafo", "Ora serviamo"},
+                                                                  {"ResizePubblicita", 1},
+                                                                  {"PubblicitaMirtolanda", 1},
+                                                                  {"TestoPubblicitaMirtolanda", "Grazie"}})
+        banco.imposta(chiave, valore);
+}
+
 class Famiglia : public testing::TestWithParam<Caso> {
 protected:
     const Caso& caso = GetParam();
-    const RigaFamiglia& riga = famiglia(caso.tipo);
 };
 
 TEST_P(Famiglia, haIControlliDelPatto) {
@@ -67,44 +119,47 @@ TEST_P(Famiglia, haIControlliDelPatto) {
     banco.videata->Mostra();
     const QWidget* finestra = BancoFinestra::finestra();
     ASSERT_TRUE(finestra);
-    EXPECT_EQ(finestra->objectName().toStdString(), riga.nome);
-    for (int slot = 0; slot < riga.slot; ++slot) {
-        for (int n = 1; n <= riga.numeri; ++n)
-            EXPECT_TRUE(figlio(finestra, nomeNumero(caso.tipo, n), slot)) << n << " " << slot;
-        EXPECT_EQ(figlio(finestra, "lblTitolo", slot) != nullptr, caso.reparti);
+    EXPECT_EQ(finestra->objectName().toStdString(), caso.nome);
+    for (int slot = 0; slot <= caso.slot; ++slot) {
+        for (int n = 1; n <= 9; ++n) {
+            if (avanti(caso.tipo) && n > 1)
+                break;
+            EXPECT_EQ(figlio(finestra, nomeNumero(caso.tipo, n), slot) != nullptr,
+                      n <= caso.numeri && slot < caso.slot)
+                << n << " " << slot;
+        }
+        EXPECT_EQ(figlio(finestra, "lblTitolo", slot) != nullptr, caso.reparti && slot < caso.slot);
     }
-    EXPECT_FALSE(figlio(finestra, nomeNumero(caso.tipo, 1), riga.slot));
     for (const auto& [nome, atteso] : std::map<const char*, bool>{{"lblChiudi", true},
                                                                   {"lblTitoloLumigrafo", caso.titolo},
                                                                   {"lblComunicazione", caso.comunicazione},
-                                                                  {"picComunicazione", caso.comunicazione},
-                                                                  {"picPubblicita", caso.pubblicita},
-                                                                  {"FraMirtolanda", caso.striscia}})
+                                                                  {"picComunicazione", caso.comunicazione}})
         EXPECT_EQ(figlio(finestra, nome) != nullptr, atteso) << nome;
 }
 
 TEST_P(Famiglia, soloINumeriGrandiPrendonoIlCarattereDelleImpostazioni) {
-    for (const bool imposto : {false, true}) {
+    for (const bool imposte : {false, true}) {
         BancoFinestra banco(caso.tipo);
-        if (imposto) {
-            banco.imposta("FontNumeri", "Courier New");
-            banco.imposta("FontSizeNumeri", "33,5");
-        }
-        for (int slot = 0; slot < riga.slot; ++slot)
-            for (int n = 1; n <= riga.numeri; ++n) {
-                const Controllo& numero = banco.controllo(nomeNumero(caso.tipo, n), slot);
-                const bool grande = n <= riga.grandi;
-                const std::string disegno(numero.disegno().carattere.nome);
-                EXPECT_EQ(numero.FontName(), !grande   ? disegno
-                                             : imposto ? "Courier New"
-                                                       : caso.carattere)
+        if (imposte)
+            tutteLeImpostazioni(banco);
+        banco.videata->Mostra();
+        BancoFinestra::finestra()->resize(disegno(banco));
+        for (int slot = 0; slot < caso.slot; ++slot)
+            for (int n = 1; n <= caso.numeri; ++n) {
+                const Controllo& controllo = banco.controllo(nomeNumero(caso.tipo, n), slot);
+                const Carattere& proprio = controllo.disegno().carattere;
+                const bool grande = n <= caso.grandi;
+                const double punti = !grande ? proprio.dimensione : imposte ? 133.5 : caso.punti;
+                EXPECT_EQ(controllo.FontName(), !grande   ? proprio.nome
+                                                : imposte ? "Courier New"
+                                                          : caso.carattere)
                     << n;
-                EXPECT_EQ(numero.FontSize(), !grande   ? numero.disegno().carattere.dimensione
-                                             : imposto ? 33.5
-                                                       : caso.punti)
+                EXPECT_EQ(controllo.FontSize(), punti) << n;
+                EXPECT_NEAR(numero(BancoFinestra::finestra(), caso, n, slot).testo().carattere().pixelSize(),
+                            punti * 20 / 15, 1)
                     << n;
-                if (n > 3 && n > riga.grandi) {
-                    EXPECT_EQ(disegno, caso.piccolo);
+                if (n > 3 && n > caso.grandi) {
+                    EXPECT_EQ(proprio.nome, caso.piccolo);
                 }
             }
     }
@@ -115,12 +170,6 @@ TEST_P(Famiglia, lampeggianoIPostiCheLoSanno) {
     banco.imposta("NumeroLampeggi", 1);
     banco.videata->Mostra();
     const int rotazione = banco.timers.accesi();
-    EXPECT_EQ(rotazione,
-              caso.pubblicita && !avanti(caso.tipo) &&
-                      caso.tipo != TipoVideata::frmLumigrafoOrizz9numeri && // no room with three rows
-                      caso.tipo != TipoVideata::frmLumigrafo1RepartoBig     // no picture in the folder
-                  ? 1
-                  : 0);
     for (std::int16_t slot = -1; slot <= 3; ++slot)
         banco.videata->Blinka(slot);
     EXPECT_EQ(banco.timers.accesi() - rotazione, caso.scatti);
@@ -129,36 +178,63 @@ TEST_P(Famiglia, lampeggianoIPostiCheLoSanno) {
     EXPECT_EQ(banco.timers.accesi() - rotazione, avanti(caso.tipo) ? 5 : caso.scatti);
     banco.timers.avanza(600ms);
     const bool siNasconde = caso.tipo != TipoVideata::frmLumigrafo1RepartoBig;
-    QWidget* numero = figlio(BancoFinestra::finestra(), nomeNumero(caso.tipo, 3), 0);
-    EXPECT_EQ(numero->isHidden(), siNasconde);
+    EXPECT_EQ(numero(BancoFinestra::finestra(), caso, 3, 0).isHidden(), siNasconde);
     banco.videata->Scarica(); // in the middle of it
     EXPECT_EQ(banco.timers.accesi(), 0);
     banco.videata->Mostra();
-    EXPECT_FALSE(figlio(BancoFinestra::finestra(), nomeNumero(caso.tipo, 3), 0)->isHidden());
+    EXPECT_FALSE(numero(BancoFinestra::finestra(), caso, 3, 0).isHidden());
+}
+
+TEST_P(Famiglia, pubblicitaEStriscia) {
+    for (const bool due : {false, true})
+        for (const bool striscia : {false, true}) {
+            BancoFinestra banco(caso.tipo);
+            const auto file = figura(banco, "pubblicita1.jpg", {60, 40}, Qt::green);
+            banco.console.inUso[2] = !due;
+            banco.imposta("QuanteCasse", due ? 2 : 5);
+            banco.imposta("PubblicitaMirtolanda", striscia ? 1 : 0);
+            banco.videata->Mostra();
+            QWidget* finestra = BancoFinestra::finestra();
+            EXPECT_EQ(vista(figlio(finestra, "picPubblicita")), caso.pubblicita[due]);
+            EXPECT_EQ(vista(figlio(finestra, "FraMirtolanda")), caso.striscia[striscia]);
+            const bool gira =
+                caso.pubblicita[due] == V || caso.tipo == TipoVideata::frmLumigrafoPerson; // unseen
+            EXPECT_EQ(banco.timers.accesi(), gira ? 1 : 0);
+            if (!gira)
+                continue;
+            banco.timers.avanza(std::chrono::seconds(caso.rotazione) - 1ms);
+            EXPECT_EQ(banco.controllo("picPubblicita").Figura(), "");
+            banco.timers.avanza(1ms);
+            EXPECT_EQ(banco.controllo("picPubblicita").Figura(), file.string());
+        }
 }
 
 TEST_P(Famiglia, unNumeroNonETagliatoMai) {
-    BancoFinestra banco(caso.tipo);
-    banco.imposta("QuanteCasse", 5);
-    banco.videata->Mostra();
-    QWidget* finestra = BancoFinestra::finestra();
-    for (const QSize misura : {QSize(800, 600), QSize(1920, 1080), QSize(3840, 2160), QSize(1080, 1920)}) {
-        finestra->resize(misura);
-        for (const char* testo : {"1", "12345", "A 7", "A 12345"})
-            for (int n = 1; n <= riga.numeri; ++n) {
-                auto& etichetta = dynamic_cast<EtichettaWidget&>(
-                    *figlio(finestra, nomeNumero(caso.tipo, n), riga.slot - 1));
-                banco.controllo(nomeNumero(caso.tipo, n), riga.slot - 1).Caption(testo);
-                const QRect area = etichetta.area();
-                const QRect nelPadre = area.translated(etichetta.pos());
-                EXPECT_TRUE(etichetta.parentWidget()->rect().contains(nelPadre));
-                QFont usato = etichetta.testo().carattere();
-                usato.setPixelSize(etichetta.testo().pixelIn(area.size()));
-                const QRectF inchiostro = QFontMetricsF(usato).tightBoundingRect(QString::fromLatin1(testo));
-                EXPECT_LE(inchiostro.width(), area.width() + 1) << testo << " " << n << " " << misura.width();
-                EXPECT_LE(inchiostro.height(), area.height() + 1) << testo << " " << n;
-                EXPECT_GE(usato.pixelSize(), 12) << testo << " " << n << " " << misura.width();
-            }
+    for (const bool imposte : {false, true}) {
+        BancoFinestra banco(caso.tipo);
+        if (imposte)
+            tutteLeImpostazioni(banco);
+        banco.videata->Mostra();
+        QWidget* finestra = BancoFinestra::finestra();
+        for (const QSize misura :
+             {QSize(800, 600), QSize(1920, 1080), QSize(3840, 2160), QSize(1080, 1920)}) {
+            finestra->resize(misura);
+            for (const char* testo : {"1", "12", "123", "1234", "12345", "A 7", "A 12345"})
+                for (int n = 1; n <= caso.numeri; ++n) {
+                    const EtichettaWidget& etichetta = numero(finestra, caso, n, caso.slot - 1);
+                    banco.controllo(nomeNumero(caso.tipo, n), caso.slot - 1).Caption(testo);
+                    const QRect area = etichetta.area();
+                    EXPECT_TRUE(etichetta.parentWidget()->rect().contains(area.translated(etichetta.pos())));
+                    QFont usato = etichetta.testo().carattere();
+                    usato.setPixelSize(etichetta.testo().pixelIn(area.size()));
+                    const QRectF inchiostro =
+                        QFontMetricsF(usato).tightBoundingRect(QString::fromLatin1(testo));
+                    EXPECT_LE(inchiostro.width(), area.width() + 1)
+                        << testo << " " << n << " " << misura.width();
+                    EXPECT_LE(inchiostro.height(), area.height() + 1) << testo << " " << n;
+                    EXPECT_GE(usato.pixelSize(), 12) << testo << " " << n << " " << misura.width();
+                }
+        }
     }
 }
 
@@ -166,9 +242,7 @@ TEST_P(Famiglia, dopoOgniMisuraTornaComEra) {
     BancoFinestra banco(caso.tipo);
     banco.videata->Mostra();
     QWidget* finestra = BancoFinestra::finestra();
-    const Layout& layout = banco.videata->controlli().layout();
-    const QSize disegno(aPixel(layout.larghezza).v, aPixel(layout.altezza).v);
-    finestra->resize(disegno);
+    finestra->resize(disegno(banco));
     const auto prima = geometria(finestra);
     for (const auto& c : banco.videata->controlli().tutti()) {
         const Rettangolo& r = c->Posto();
@@ -177,29 +251,37 @@ TEST_P(Famiglia, dopoOgniMisuraTornaComEra) {
     }
     for (int i = 0; i < 20; ++i)
         finestra->resize(701 + 137 * i, 401 + 83 * i);
-    finestra->resize(2 * disegno);
+    finestra->resize(2 * disegno(banco));
     EXPECT_NEAR(figlio(finestra, nomeNumero(caso.tipo, 3), 0)->width(),
                 2 * prima.at(QString::fromStdString(nomeCompleto(nomeNumero(caso.tipo, 3), 0))).width(), 1);
-    finestra->resize(disegno);
+    finestra->resize(disegno(banco));
     EXPECT_EQ(geometria(finestra), prima);
 }
 
 INSTANTIATE_TEST_SUITE_P(Tutte, Famiglia, testing::ValuesIn(kCasi),
                          [](const auto& caso) { return std::string(famiglia(caso.param.tipo).nome); });
 
-/// A picture of one colour in the program folder.
-std::filesystem::path figura(const BancoVideata& banco, const char* nome, QSize misura, QColor tinta) {
-    const auto file = banco.cartella.percorso() / nome;
-    QImage carta(misura, QImage::Format_RGB32);
-    carta.fill(tinta);
-    carta.save(QString::fromStdString(file.string()), "JPG", 95);
-    return file;
-}
-
 QColor tintaIn(QWidget* finestra, QPoint punto) {
     const QColor c = finestra->grab().toImage().pixelColor(punto);
     // What a JPEG keeps of a colour is near enough.
     return QColor(c.red() > 127 ? 255 : 0, c.green() > 127 ? 255 : 0, c.blue() > 127 ? 255 : 0);
+}
+
+TEST(NumeriPiccoli, nonToccanoISeparatori) {
+    BancoFinestra banco;
+    banco.videata->Mostra();
+    QWidget* finestra = BancoFinestra::finestra();
+    for (const QSize misura : {QSize(800, 600), QSize(3840, 2160), QSize(1080, 1920)}) {
+        finestra->resize(misura);
+        for (int slot = 0; slot < 3; ++slot)
+            for (const char* nome : {"lblNumero4", "lblNumero5", "lblNumero6"})
+                for (const int barra : {2 * slot, 2 * slot + 1}) {
+                    const auto& e = dynamic_cast<EtichettaWidget&>(*figlio(finestra, nome, slot));
+                    EXPECT_FALSE(e.area().translated(e.pos()).intersects(
+                        figlio(finestra, "Shape1", barra)->geometry()))
+                        << nome << " " << barra;
+                }
+    }
 }
 
 TEST(PubblicitaVista, stirataONaturale) {
@@ -215,6 +297,7 @@ TEST(PubblicitaVista, stirataONaturale) {
         const QRect area = figlio(finestra, "picPubblicita")->geometry();
         EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(5, 5)), QColor(Qt::black)) << "before a tick";
         banco.timers.avanza(10000ms);
+        attendiFigura(finestra, "picPubblicita");
         EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(95, 45)), QColor(Qt::green));
         const QColor lontano = resize == 1 ? Qt::green : Qt::black;
         EXPECT_EQ(tintaIn(finestra, area.topLeft() + QPoint(110, 55)), lontano);
@@ -264,11 +347,15 @@ TEST(SfondoVisto, riempieLaFinestraSottoINumeri) {
     EXPECT_TRUE(banco.sceltaFile.chieste.empty()) << "a label takes its own clicks";
     QTest::mouseDClick(finestra, Qt::LeftButton, {}, QPoint(finestra->width() - 60, finestra->height() / 2));
     ASSERT_EQ(banco.sceltaFile.chieste.size(), 1U);
+    attendiFigura(finestra, "imgSfondo");
     for (const QPoint punto : {QPoint(3, 3), QPoint(finestra->width() - 3, finestra->height() - 3)})
         EXPECT_EQ(tintaIn(finestra, punto), QColor(Qt::blue));
 
     banco.videata->Scarica();
     banco.videata->Mostra();
+    EXPECT_EQ(tintaIn(BancoFinestra::finestra(), QPoint(3, 3)), QColor(Qt::black))
+        << "the design's picture doesn't flash up before it";
+    attendiFigura(BancoFinestra::finestra(), "imgSfondo");
     EXPECT_EQ(tintaIn(BancoFinestra::finestra(), QPoint(3, 3)), QColor(Qt::blue)) << "kept for later runs";
 }
 

@@ -1,3 +1,4 @@
+#include "boards/modulo_monitor.h"
 #include "boards/sagoma.h"
 #include "platform/file.h"
 #include "platform/finti/finti.h"
@@ -6,6 +7,7 @@
 #include "platform/linux/desktop.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
+#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -87,6 +89,20 @@ INSTANTIATE_TEST_SUITE_P(
              kPrimario,
              Rettangolo{28800, 300, 28800, 15900}}),
     [](const auto& caso) { return caso.param.nome; });
+
+TEST(LeggiInfoMonitor, TellsTheMonitorOrThePrimaryOne) {
+    SchermiFinti schermi;
+    schermi.schermi = {{kPrimario, kPrimario, true, 1},
+                       {{28800, -150, 19200, 15360}, {28800, 0, 19200, 14760}, false, 2}};
+    const InfoMonitor m = LeggiInfoMonitor(schermi, {30000, 300, 4560, 3030});
+    EXPECT_EQ(m.hMonitor, 2);
+    EXPECT_FALSE(m.Primario);
+    EXPECT_THAT((std::array{m.MonLeft, m.MonRight, m.MonTop, m.MonBottom, m.MonHeight, m.MonWidth}),
+                ElementsAre(28800, 48000, -150, 15210, 15360, 19200));
+    EXPECT_THAT((std::array{m.WorkLeft, m.WorkRight, m.WorkTop, m.WorkBottom, m.WorkHeight, m.WorkWidth}),
+                ElementsAre(28800, 48000, 0, 14760, 14760, 19200));
+    EXPECT_EQ(LeggiInfoMonitor(schermi, {90000, 0, 4560, 3030}).hMonitor, 1);
+}
 
 TEST(Sagoma, AMachineWithoutDisplaySettingsSaysSo) {
     CartellaTemporanea cartella;

@@ -69,6 +69,26 @@ TEST_F(Sfondo, riletteAOgniAttivazione) {
     EXPECT_EQ(banco.vista.posizionata, 1);
 }
 
+TEST_F(Sfondo, unaFotografiaUgualeNonSiRilegge) {
+    const auto file = altrove.percorso() / "mia.jpg";
+    scrivi(file, "una");
+    banco.impostazioni.ScriviIni("Sfondo", "Sfondo", testoUtf8(file));
+    banco.videata->Mostra();
+    Controllo& sfondo = banco.controllo("imgSfondo");
+    EXPECT_EQ(sfondo.Figura(), testoUtf8(file));
+    sfondo.Figura("segno"); // what a new reading would replace
+    banco.videata->Mostra();
+    banco.vista.eventi.attivata();
+    EXPECT_EQ(figura(), "segno");
+    scrivi(file, "un'altra");
+    banco.videata->Mostra();
+    EXPECT_EQ(figura(), testoUtf8(file)) << "written over";
+    sfondo.Figura("segno");
+    std::filesystem::remove(file);
+    banco.videata->Mostra();
+    EXPECT_EQ(figura(), testoUtf8(file)) << "gone: the view says so";
+}
+
 TEST_F(Sfondo, conSoloAndroidRestaIlDisegno) {
     banco.console.soloAndroid = true;
     banco.impostazioni.ScriviIni("Sfondo", "Sfondo", "/un/altro.jpg");

@@ -80,7 +80,7 @@ Processo& Stazione::avvia(const std::string& parola) {
 bool Stazione::accendi() {
     const pid_t pid = avvia().pid();
     return attendiChe(20s, [&] {
-        for (const FinestraX& f : schermo_.finestre(pid, ""))
+        for (const FinestraX& f : schermo_.finestre(pid, "[^a-zA-Z]*")) // the board shows no title
             if (f.posto.x >= Schermo::kLarghezza)
                 tabellone = f;
         const auto trovate = schermo_.finestre(pid, "Lumigrafo");

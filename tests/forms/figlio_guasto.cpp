@@ -1,3 +1,4 @@
+#include "forms/qt/figura.h"
 #include "platform/guasto.h"
 #include "platform/qt/applicazione.h"
 #include "platform/qt/avvisi_qt.h"
@@ -40,6 +41,11 @@ void avvia(const QString& modo) {
     QTimer::singleShot(0, qApp, chiudiAvviso);
     if (modo == QStringLiteral("avvio"))
         fallisci(modo);
+    if (modo.contains(QLatin1Char('/'))) { // a picture file
+        static lumigrafo::Figura figura([] {});
+        figura.carica(modo.toStdString(), {{10, 10}, lumigrafo::Adattamento::Stirata, 1});
+        return;
+    }
     auto* altro = new QTimer(qApp);
     QObject::connect(altro, &QTimer::timeout, qApp, [modo] {
         ++altriScatti;

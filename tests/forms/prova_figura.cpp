@@ -1,10 +1,13 @@
-#include "forms/qt/file_figura.h"
+#include "forms/qt/figura.h"
 #include "platform/guasto.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QPainter>
+#include <QThreadPool>
 
 #include <algorithm>
 #include <cstdlib>
@@ -35,6 +38,15 @@ protected:
         EXPECT_TRUE(scrittore.write(carta));
         return percorso(nome);
     }
+    /// One that must be decoded whole before any of it can be scaled.
+    QString progressiva(const char* nome, QColor tinta) {
+        QImage carta(1600, 1200, QImage::Format_RGB32);
+        carta.fill(tinta);
+        QImageWriter scrittore(percorso(nome), "jpg");
+        scrittore.setProgressiveScanWrite(true);
+        EXPECT_TRUE(scrittore.write(carta));
+        return percorso(nome);
+    }
 };
 
 int distanza(const QImage& a, const QImage& b) {
@@ -60,9 +72,9 @@ TEST_F(FileFiguraProva, DecodificaQuantoSiVede) {
                           Caso{{{500, 90}, Adattamento::Naturale, 1}, {500, 90}},
                           Caso{{{500, 9000}, Adattamento::Naturale, 2}, {500, 1200}},
                           Caso{{{0, 0}, Adattamento::Stirata, 1}, {1, 1}}}) {
-        const FileFigura f(file, c.inquadratura);
-        EXPECT_EQ(f.immagine().size(), c.attesa);
-        EXPECT_EQ(f.misura(), QSize(1600, 1200));
+        const FiguraLetta f = FileFigura(file).leggi(c.inquadratura);
+        EXPECT_EQ(f.immagine.size(), c.attesa);
+        EXPECT_EQ(f.intera, QSize(1600, 1200));
     }
 }
 
@@ -73,23 +85,88 @@ TEST_F(FileFiguraProva, RitagliaIlPezzoGiustoComunqueFosseTenutaLaMacchina) {
         lettore.setAutoTransform(true);
         const QImage intera = lettore.read();
         const QSize area(200, 90);
-        const FileFigura ritaglio(file, {area, Adattamento::Naturale, 1});
-        EXPECT_EQ(ritaglio.misura(), intera.size());
-        EXPECT_LT(distanza(ritaglio.immagine(), intera.copy(QRect({0, 0}, area))), 12) << giro;
-        const FileFigura stirata(file, {area, Adattamento::Stirata, 1});
-        EXPECT_LT(distanza(stirata.immagine(), intera.scaled(area)), 12) << giro;
+        const FiguraLetta ritaglio = FileFigura(file).leggi({area, Adattamento::Naturale, 1});
+        EXPECT_EQ(ritaglio.intera, intera.size());
+        EXPECT_LT(distanza(ritaglio.immagine, intera.copy(QRect({0, 0}, area))), 12) << giro;
+        const FiguraLetta stirata = FileFigura(file).leggi({area, Adattamento::Stirata, 1});
+        EXPECT_LT(distanza(stirata.immagine, intera.scaled(area)), 12) << giro;
     }
 }
 
+/// A figure on a sheet of its own; each colour of its middle can be asked for.
+struct FiguraSulFoglio {
+    int pronte = 0;
+    Figura figura{[this] { ++pronte; }};
+    QColor disegna(QSize area = {40, 40}) {
+        QImage foglio(area, QImage::Format_RGB32);
+        foglio.fill(Qt::black);
+        QPainter p(&foglio);
+        figura.disegna(p, foglio.rect(), Adattamento::Stirata);
+        p.end();
+        const QColor c = foglio.pixelColor(area.width() / 2, area.height() / 2);
+        return {c.red() > 127 ? 255 : 0, c.green() > 127 ? 255 : 0, c.blue() > 127 ? 255 : 0};
+    }
+    void carica(const QString& file) {
+        figura.carica(file.toStdString(), {{40, 40}, Adattamento::Stirata, 1});
+    }
+};
+
 TEST_F(FileFiguraProva, QuandoSeNeVedeDiPiuSiRilegge) {
-    const QString file = foto("cresce.jpg", {800, 600});
-    FileFigura f(file, {{100, 100}, Adattamento::Stirata, 1});
-    EXPECT_FALSE(f.adegua({{90, 100}, Adattamento::Stirata, 1}));
-    EXPECT_TRUE(f.adegua({{300, 100}, Adattamento::Stirata, 1}));
-    EXPECT_EQ(f.immagine().size(), QSize(300, 100));
+    const QString file = progressiva("cresce.jpg", Qt::red);
+    FiguraSulFoglio f;
+    f.carica(file);
+    f.figura.attendi();
+    for (const auto& [area, pronte] : {std::pair(QSize(30, 40), 1), std::pair(QSize(300, 100), 2)}) {
+        (void)f.disegna(area);
+        f.figura.attendi();
+        EXPECT_EQ(f.pronte, pronte) << area.width();
+    }
     QFile::remove(file);
-    EXPECT_FALSE(f.adegua({{600, 400}, Adattamento::Stirata, 1}));
-    EXPECT_EQ(f.immagine().size(), QSize(300, 100)) << "the picture on show stays";
+    EXPECT_NE(f.disegna({600, 400}), QColor(Qt::black));
+    EXPECT_NO_THROW(f.figura.attendi());
+    EXPECT_NE(f.disegna({600, 400}), QColor(Qt::black)) << "the picture on show stays";
+    EXPECT_EQ(f.pronte, 2);
+}
+
+TEST_F(FileFiguraProva, SiDecodificaAccantoAlleFinestre) {
+    const QString rossa = progressiva("rossa.jpg", Qt::red), verde = progressiva("verde.jpg", Qt::green),
+                  blu = progressiva("blu.jpg", Qt::blue);
+    FiguraSulFoglio f;
+    f.carica(rossa);
+    EXPECT_EQ(f.disegna(), QColor(Qt::black)) << "handed over by the event loop, not before";
+    f.figura.attendi();
+    EXPECT_EQ(f.disegna(), QColor(Qt::red));
+
+    f.carica(verde);
+    EXPECT_EQ(f.disegna(), QColor(Qt::red)) << "the old one stays meanwhile";
+    f.carica(blu);
+    f.figura.attendi();
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f.disegna(), QColor(Qt::blue)) << "the later one wins";
+    EXPECT_EQ(f.pronte, 2);
+
+    f.carica(rossa);
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f.disegna(), QColor(Qt::red)) << "the loop alone brings it as well";
+    f.carica(verde);
+    f.figura.carica("", {});
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(f.figura.vuota());
+}
+
+TEST_F(FileFiguraProva, ChiSeNeVaNonAspetta) {
+    const QString file = progressiva("rossa.jpg", Qt::red);
+    int pronte = 0;
+    for (int i = 0; i < 8; ++i) {
+        Figura figura([&] { ++pronte; });
+        figura.carica(file.toStdString(), {{40, 40}, Adattamento::Stirata, 1});
+    }
+    QThreadPool::globalInstance()->waitForDone();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(pronte, 0);
 }
 
 TEST_F(FileFiguraProva, IlGuastoDiceQualFile) {
@@ -100,7 +177,7 @@ TEST_F(FileFiguraProva, IlGuastoDiceQualFile) {
     file.close();
     for (const auto& [nome, numero] : {std::pair(percorso("manca.jpg"), 53), std::pair(rotta, 481)}) {
         try {
-            const FileFigura f(nome, {{10, 10}, Adattamento::Stirata, 1});
+            const FileFigura f(nome);
             ADD_FAILURE() << "read " << nome.toStdString();
         } catch (const Guasto& g) {
             EXPECT_EQ(g.numero(), numero);

@@ -12,6 +12,9 @@ namespace lumigrafo {
 
 namespace {
 
+/// Qt puts the program's name where a window has no caption at all; this one has a mark that nobody sees.
+const QString kSenzaTitolo(QChar(0x200B));
+
 class FinestraVideataQt final : public FinestraVideata {
 public:
     FinestraVideataQt(const std::shared_ptr<Controlli>& controlli, EventiFinestra eventi);
@@ -24,7 +27,7 @@ public:
     void riduci(bool ridotta) override;
     [[nodiscard]] bool ridotta() const override { return finestra_->isMinimized(); }
     void titolo(const std::string& testo) override {
-        finestra_->setWindowTitle(QString::fromStdString(testo));
+        finestra_->setWindowTitle(testo.empty() ? kSenzaTitolo : QString::fromStdString(testo));
     }
     [[nodiscard]] Rettangolo posto() const override;
     void posto(const Rettangolo& rett) override;

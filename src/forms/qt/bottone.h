@@ -33,7 +33,7 @@ private:
     [[nodiscard]] QColor sfondoDi(const QColor& base) const;
 
     TestoAdattato testo_;
-    Figura figura_;
+    Figura figura_{[this] { update(); }};
     Colore tinta_;
     std::optional<Colore> sfondo_;
     int raggio_ = 0;

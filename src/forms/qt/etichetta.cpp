@@ -10,20 +10,27 @@
 namespace lumigrafo {
 
 void EtichettaWidget::mostra(const Controllo& c, const Resa& resa) {
+    const Descrizione& disegno = c.disegno();
     const bool testo =
-        testo_.imposta(QString::fromStdString(c.Caption()), resa.carattere, c.disegno().allineamento);
-    if (!testo && tinta_ == c.ForeColor() && sfondo_ == c.BackColor() && raggio_ == resa.raggio)
+        testo_.imposta(QString::fromStdString(c.Caption()), resa.carattere, disegno.allineamento);
+    int altezza = altezza_;
+    if (disegno.inAlto)
+        altezza = qRound(QFontMetrics(resa.carattere).height() * resa.scala.inPiuInAltezza());
+    const int margine = resa.scala.larghezza(disegno.margine);
+    if (!testo && tinta_ == c.ForeColor() && sfondo_ == c.BackColor() && raggio_ == resa.raggio &&
+        altezza_ == altezza && margine_ == margine)
         return;
     tinta_ = c.ForeColor();
     sfondo_ = c.BackColor();
     raggio_ = resa.raggio;
-    if (c.disegno().inAlto)
-        altezza_ = QFontMetrics(resa.carattere).height();
+    altezza_ = altezza;
+    margine_ = margine;
     update();
 }
 
 QRect EtichettaWidget::area() const {
-    QRect dentro = sfondo_ ? rect().adjusted(raggio_, 0, -raggio_, 0) : rect();
+    const int margine = sfondo_ ? std::max(raggio_, margine_) : margine_;
+    QRect dentro = rect().adjusted(margine, 0, -margine, 0);
     dentro.setHeight(std::min(dentro.height(), altezza_));
     const QWidget* padre = parentWidget();
     return padre ? dentro.intersected({-pos(), padre->size()}) : dentro;

@@ -5,21 +5,34 @@
 #include <QSvgRenderer>
 #include <QtDebug>
 
+#include <utility>
+
 namespace lumigrafo {
 
-Figura::Figura() = default;
+Figura::Figura(std::function<void()> pronta)
+    : avvisa_(std::move(pronta)), lettore_([this](FiguraLetta letta) { ricevi(std::move(letta)); }) {}
+
 Figura::~Figura() = default;
 
-void Figura::carica(const std::string& nome, const Inquadratura& inquadratura) {
+void Figura::svuota() {
     disegno_.reset();
-    file_.reset();
+    letta_.reset();
     misuraPronta_ = {};
-    if (nome.empty())
-        return;
+}
+
+void Figura::carica(const std::string& nome, const Inquadratura& inquadratura) {
     if (nome.find_first_of("/\\") != std::string::npos) {
-        file_.emplace(QString::fromStdString(nome), inquadratura);
+        file_ = FileFigura(QString::fromStdString(nome));
+        chiesta_ = inquadratura;
+        if (!vista_)
+            svuota(); // a picture that nobody has seen yet doesn't flash up before the one that is wanted
+        lettore_.chiedi(file_, inquadratura, LettoreFigura::SeGuasta::Ferma);
         return;
     }
+    lettore_.lascia();
+    svuota();
+    if (nome.empty())
+        return;
     const QString risorsa = QStringLiteral(":/figure/%1.svg").arg(QString::fromStdString(nome));
     if (!QFile::exists(risorsa)) {
         qWarning() << "missing figure" << risorsa;
@@ -29,17 +42,23 @@ void Figura::carica(const std::string& nome, const Inquadratura& inquadratura) {
     disegno_->setAspectRatioMode(Qt::IgnoreAspectRatio);
 }
 
+void Figura::ricevi(FiguraLetta letta) {
+    svuota();
+    letta_ = std::move(letta);
+    avvisa_();
+}
+
 bool Figura::vuota() const {
-    return !disegno_ && !file_;
+    return !disegno_ && !letta_;
 }
 
 QSize Figura::misura(QSize area, Adattamento modo) const {
     if (modo == Adattamento::Stirata)
         return area;
-    const QSize propria = disegno_ ? disegno_->defaultSize() : file_->misura();
+    const QSize propria = disegno_ ? disegno_->defaultSize() : letta_->intera;
     if (modo == Adattamento::Intera)
         return propria.scaled(area, Qt::KeepAspectRatio);
-    return disegno_ ? propria : file_->immagine().size();
+    return disegno_ ? propria : letta_->immagine.size();
 }
 
 const QPixmap& Figura::pronta(QSize misura, double densita) {
@@ -54,17 +73,26 @@ const QPixmap& Figura::pronta(QSize misura, double densita) {
         disegno_->render(&p, QRectF(QPointF(0, 0), fisica));
     } else {
         pronta_ = QPixmap::fromImage(
-            file_->immagine().scaled(fisica, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+            letta_->immagine.scaled(fisica, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
     }
     return pronta_;
+}
+
+/// The file is decoded again where more of it is seen now than was decoded. What can't be read any more stays
+/// as it was, and isn't asked for a second time.
+void Figura::chiediDiPiu(const Inquadratura& inquadratura) {
+    if (!letta_ || lettore_.inCorso() || chiesta_ == inquadratura || letta_->basta(inquadratura))
+        return;
+    chiesta_ = inquadratura;
+    lettore_.chiedi(file_, inquadratura, LettoreFigura::SeGuasta::Lascia);
 }
 
 void Figura::disegna(QPainter& pennello, const QRect& area, Adattamento modo) {
     if (vuota() || area.isEmpty())
         return;
+    vista_ = true;
     const double densita = pennello.device()->devicePixelRatioF();
-    if (file_ && file_->adegua({area.size(), modo, densita}))
-        misuraPronta_ = {};
+    chiediDiPiu({area.size(), modo, densita});
     const QSize grande = misura(area.size(), modo);
     if (grande.isEmpty())
         return;

@@ -30,53 +30,56 @@ QRect nelFile(QRect visto, QSize misura, QImageIOHandler::Transformations giro) 
     return visto;
 }
 
-} // namespace
-
-FileFigura::FileFigura(QString percorso, const Inquadratura& inquadratura) : percorso_(std::move(percorso)) {
-    if (!QFile::exists(percorso_))
-        guastoDiFile(guasti::kFileNonTrovato, percorso_);
-    decodifica(inquadratura);
-}
-
-QSize FileFigura::occorre(const Inquadratura& i) const {
+/// The pixels that are needed of a picture of `intera`.
+QSize occorre(QSize intera, const Inquadratura& i) {
     const QSize area = i.area.expandedTo({1, 1});
     if (i.modo == Adattamento::Naturale)
-        return area.boundedTo(intera_);
+        return area.boundedTo(intera);
     const QSize schermo = area * i.densita;
     const QSize vista =
-        i.modo == Adattamento::Stirata ? schermo : intera_.scaled(schermo, Qt::KeepAspectRatio);
-    return vista.boundedTo(intera_).expandedTo({1, 1});
+        i.modo == Adattamento::Stirata ? schermo : intera.scaled(schermo, Qt::KeepAspectRatio);
+    return vista.boundedTo(intera).expandedTo({1, 1});
 }
 
-void FileFigura::decodifica(const Inquadratura& i) {
+} // namespace
+
+bool FiguraLetta::basta(const Inquadratura& i) const {
+    const QSize serve = occorre(intera, i);
+    return serve.width() <= immagine.width() && serve.height() <= immagine.height();
+}
+
+FileFigura::FileFigura(QString percorso) : percorso_(std::move(percorso)) {
+    if (!QFile::exists(percorso_))
+        guastoDiFile(guasti::kFileNonTrovato, percorso_);
     QImageReader::setAllocationLimit(kMegabyteMassimi);
     QImageReader lettore(percorso_);
     lettore.setDecideFormatFromContent(true);
+    if (!lettore.canRead())
+        guastoDiFile(guasti::kImmagine, percorso_);
+}
+
+FiguraLetta FileFigura::leggi(const Inquadratura& i) const {
+    QImageReader lettore(percorso_);
+    lettore.setDecideFormatFromContent(true);
     lettore.setAutoTransform(true);
+    FiguraLetta letta;
     const QSize nelDisco = lettore.size();
     if (nelDisco.isValid()) {
         const auto giro = lettore.transformation();
         const bool coricata = giro & QImageIOHandler::TransformationRotate90;
-        intera_ = coricata ? nelDisco.transposed() : nelDisco;
-        const QSize serve = occorre(i);
+        letta.intera = coricata ? nelDisco.transposed() : nelDisco;
+        const QSize serve = occorre(letta.intera, i);
         if (i.modo == Adattamento::Naturale)
             lettore.setClipRect(nelFile({{0, 0}, serve}, nelDisco, giro));
-        else if (serve != intera_)
+        else if (serve != letta.intera)
             lettore.setScaledSize(coricata ? serve.transposed() : serve);
     }
-    QImage letta = lettore.read();
-    if (letta.isNull())
+    letta.immagine = lettore.read();
+    if (letta.immagine.isNull())
         guastoDiFile(guasti::kImmagine, percorso_);
     if (!nelDisco.isValid())
-        intera_ = letta.size();
-    immagine_ = std::move(letta);
-}
-
-bool FileFigura::adegua(const Inquadratura& i) {
-    const QSize serve = occorre(i);
-    if (serve.width() <= immagine_.width() && serve.height() <= immagine_.height())
-        return false;
-    return ignorandoGuasti([&] { decodifica(i); });
+        letta.intera = letta.immagine.size();
+    return letta;
 }
 
 } // namespace lumigrafo

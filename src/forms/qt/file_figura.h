@@ -13,30 +13,30 @@ struct Inquadratura {
     QSize area; ///< device-independent pixels
     Adattamento modo = Adattamento::Intera;
     double densita = 1; ///< pixels of the screen in each of those
+    friend bool operator==(const Inquadratura&, const Inquadratura&) = default;
 };
 
-/// A picture file, decoded no larger than it is seen: a photograph of tens of megapixels costs little more
-/// than reading its bytes. Turned upright where the camera noted how it was held.
+/// What was decoded of a picture file, turned upright where the camera noted how it was held.
+struct FiguraLetta {
+    QSize intera;    ///< of the whole picture, in its own pixels
+    QImage immagine; ///< the whole picture, or with Adattamento::Naturale its top left as far as it is seen
+    /// True if a picture seen that way needs no more pixels than these.
+    [[nodiscard]] bool basta(const Inquadratura& inquadratura) const;
+};
+
+/// A picture file, decoded no larger than it is seen: most photographs of tens of megapixels cost little more
+/// than reading their bytes.
 class FileFigura {
 public:
-    /// Throws Guasto 53 where there is no such file, 481 where it is no picture.
-    FileFigura(QString percorso, const Inquadratura& inquadratura);
-    /// Decodes again where more is seen now than was decoded. What can't be read any more stays as it was.
-    /// True if it did.
-    bool adegua(const Inquadratura& inquadratura);
-
-    /// Of the whole picture, in its own pixels.
-    [[nodiscard]] QSize misura() const { return intera_; }
-    /// The whole picture, or with Adattamento::Naturale its top left as far as it is seen.
-    [[nodiscard]] const QImage& immagine() const { return immagine_; }
+    FileFigura() = default;
+    /// Reads no more than the file's first bytes. Throws Guasto 53 where there is no such file, 481 where it
+    /// doesn't begin as a picture does; both name it.
+    explicit FileFigura(QString percorso);
+    /// Decodes the picture, on whatever thread this is. Throws Guasto 481 where it can't be.
+    [[nodiscard]] FiguraLetta leggi(const Inquadratura& inquadratura) const;
 
 private:
-    void decodifica(const Inquadratura& inquadratura);
-    [[nodiscard]] QSize occorre(const Inquadratura& inquadratura) const;
-
     QString percorso_;
-    QSize intera_;
-    QImage immagine_;
 };
 
 } // namespace lumigrafo

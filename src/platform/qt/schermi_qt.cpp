@@ -16,8 +16,9 @@ Rettangolo inTwip(const QRect& r) {
 std::vector<Schermo> SchermiQt::elenco() const {
     std::vector<Schermo> schermi;
     for (const QScreen* s : QGuiApplication::screens())
-        schermi.push_back(
-            {inTwip(s->geometry()), inTwip(s->availableGeometry()), s == QGuiApplication::primaryScreen()});
+        schermi.push_back({inTwip(s->geometry()), inTwip(s->availableGeometry()),
+                           s == QGuiApplication::primaryScreen(),
+                           static_cast<std::int32_t>(schermi.size()) + 1});
     return schermi;
 }
 
