@@ -61,6 +61,12 @@ struct Tabellone {
         videata->controlli()("lblNumero3", 0).Caption("A 128");
         QApplication::processEvents();
     }
+    ~Tabellone() {
+        videata.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    Tabellone(const Tabellone&) = delete;
+    Tabellone& operator=(const Tabellone&) = delete;
     [[nodiscard]] QWidget& finestra() const { return *QApplication::topLevelWidgets().front(); }
     void dipingi() const {
         QCoreApplication::sendPostedEvents();

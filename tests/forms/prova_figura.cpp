@@ -157,6 +157,20 @@ TEST_F(FileFiguraProva, SiDecodificaAccantoAlleFinestre) {
     EXPECT_TRUE(f.figura.vuota());
 }
 
+TEST(Disegno, QuelCheRestaIntattoNonSiStira) {
+    Figura figura([] {});
+    figura.carica("intatto", {});
+    QImage foglio(200, 100, QImage::Format_RGB32);
+    foglio.fill(Qt::black);
+    QPainter p(&foglio);
+    figura.disegna(p, foglio.rect(), Adattamento::Stirata);
+    p.end();
+    EXPECT_EQ(foglio.pixelColor(195, 5), QColor(Qt::green)) << "the rest is stretched";
+    for (const auto& [x, tinta] : {std::pair(83, Qt::red), std::pair(117, Qt::red), std::pair(75, Qt::black),
+                                   std::pair(125, Qt::black)})
+        EXPECT_EQ(foglio.pixelColor(x, 50), QColor(tinta)) << x;
+}
+
 TEST_F(FileFiguraProva, ChiSeNeVaNonAspetta) {
     const QString file = progressiva("rossa.jpg", Qt::red);
     int pronte = 0;

@@ -5,9 +5,30 @@
 #include <QSvgRenderer>
 #include <QtDebug>
 
+#include <algorithm>
 #include <utility>
 
 namespace lumigrafo {
+
+namespace {
+
+/// A drawing's definitions "intatto1", "intatto2".. stand at their places over the rest, in their own
+/// proportions even where the rest is stretched.
+void disegnaIntatti(QSvgRenderer& disegno, QPainter& pennello, QSizeF misura) {
+    const QRectF tutto = disegno.viewBoxF();
+    const double x = misura.width() / tutto.width(), y = misura.height() / tutto.height();
+    for (int i = 1;; ++i) {
+        const QString nome = QStringLiteral("intatto%1").arg(i);
+        if (!disegno.elementExists(nome))
+            return;
+        const QRectF suo = disegno.boundsOnElement(nome).translated(-tutto.topLeft());
+        QRectF dove(QPointF(0, 0), suo.size() * std::min(x, y));
+        dove.moveCenter({suo.center().x() * x, suo.center().y() * y});
+        disegno.render(&pennello, nome, dove);
+    }
+}
+
+} // namespace
 
 Figura::Figura(std::function<void()> pronta)
     : avvisa_(std::move(pronta)), lettore_([this](FiguraLetta letta) { ricevi(std::move(letta)); }) {}
@@ -71,6 +92,7 @@ const QPixmap& Figura::pronta(QSize misura, double densita) {
         pronta_.fill(Qt::transparent);
         QPainter p(&pronta_);
         disegno_->render(&p, QRectF(QPointF(0, 0), fisica));
+        disegnaIntatti(*disegno_, p, fisica);
     } else {
         pronta_ = QPixmap::fromImage(
             letta_->immagine.scaled(fisica, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
