@@ -18,8 +18,8 @@ public:
 class Parlante {
 public:
     virtual ~Parlante() = default;
-    /// Speaks the text at once, over anything in progress, and leaves the queue alone. Throws Guasto 91 where
-    /// the voice was never made ready.
+    /// Speaks the text at once, over anything in progress, and leaves the queue alone. Makes the voice ready
+    /// where it isn't yet.
     virtual void Parla(const std::string& testo) = 0;
 };
 

@@ -1,7 +1,5 @@
 #include "announce/annunciatore_vocale.h"
 
-#include "platform/guasto.h"
-
 #include <optional>
 #include <utility>
 #include <vector>
@@ -35,8 +33,9 @@ void AnnunciatoreVocale::ScegliVoce() {
 }
 
 void AnnunciatoreVocale::Parla(const std::string& testo) {
+    // Whoever speaks at once was asked to: also where the voice of the calls is switched off.
     if (!scelta_)
-        throw Guasto(guasti::kOggettoMancante);
+        ScegliVoce();
     voce_.Speak(testo, dati_.VelocitaVocale(), dati_.VolumeVocale());
 }
 

@@ -8,9 +8,10 @@
 namespace lumigrafo {
 
 DialoghiQt::DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione,
-                       Uscita& uscita, std::function<Rettangolo()> console)
-    : sagoma_(sagoma), console_(std::move(console)), processi_(processi), alimentazione_(alimentazione),
-      uscita_(uscita) {}
+                       Uscita& uscita, std::function<Rettangolo()> console,
+                       std::function<RichiamiConsole&()> richiami)
+    : sagoma_(sagoma), console_(std::move(console)), richiami_(std::move(richiami)), processi_(processi),
+      alimentazione_(alimentazione), uscita_(uscita) {}
 
 void DialoghiQt::manca(const char* cosa) {
     sagoma_.avvisi.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",

@@ -6,6 +6,7 @@
 #include "platform/processi.h"
 #include "platform/sistema.h"
 #include "settings/dialoghi.h"
+#include "settings/richiami.h"
 
 #include <functional>
 
@@ -14,9 +15,9 @@ namespace lumigrafo {
 /// The dialogs as windows. Those that this version doesn't have yet say so.
 class DialoghiQt : public Dialoghi {
 public:
-    /// `console`: where the console stands on the desktop, twips.
+    /// `console`: where the console stands on the desktop, twips. `richiami`: what dialogs call back in it.
     DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
-               std::function<Rettangolo()> console);
+               std::function<Rettangolo()> console, std::function<RichiamiConsole&()> richiami);
 
     void frmSpegni() override;
     void frmDatabase() override;
@@ -33,6 +34,7 @@ private:
 
     ServiziSagoma sagoma_;
     std::function<Rettangolo()> console_;
+    std::function<RichiamiConsole&()> richiami_;
     Processi& processi_;
     Alimentazione& alimentazione_;
     Uscita& uscita_;

@@ -17,16 +17,19 @@ Rettangolo postoDi(const QWidget& finestra) {
 
 Programma::Programma(const Ambiente& ambiente, Avvisi& avvisi, Uscita& uscita)
     : ambiente_(ambiente), sistema_(ambiente.cartella, [] { QApplication::beep(); }),
-      dialoghi_({ambiente_, pompa_, avvisi, messaggi_, schermi_, desktop_}, processi_, alimentazione_, uscita,
-                [this] { return postoDi(finestra_); }),
+      dialoghi_(
+          {ambiente_, pompa_, avvisi, messaggi_, schermi_, desktop_}, processi_, alimentazione_, uscita,
+          [this] { return postoDi(finestra_); },
+          [this]() -> RichiamiConsole& { return console_.richiami(); }),
       annunciatore_(voce_, log_, pompa_, dati_,
                     [this](const std::string& testo) { notifiche_.NotificaPopup(testo); }),
       servizi_{ambiente_, pompa_, timers_, dati_, sceltaFile_},
-      console_(
-          stato_,
-          PorteConsole{ambiente_, orologio_, pompa_, timers_, avvisi, messaggi_, processi_, alimentazione_,
-                       sistema_, desktop_, uscita, dialoghi_, annunciatore_, fiscale_, android_, server_},
-          finestra_, [this](TipoVideata tipo) { return creaVideata(tipo, servizi_, fabbricaFinestreQt()); }) {
+      console_(stato_,
+               PorteConsole{ambiente_, orologio_, pompa_, timers_, avvisi, messaggi_, processi_,
+                            alimentazione_, sistema_, desktop_, uscita, dialoghi_, annunciatore_,
+                            annunciatore_, fiscale_, android_, server_},
+               finestra_,
+               [this](TipoVideata tipo) { return creaVideata(tipo, servizi_, fabbricaFinestreQt()); }) {
     finestra_.collega(console_);
 }
 

@@ -17,6 +17,8 @@ public:
     /// Shows and raises it, minimised where it was last told so. The keyboard stays where it is.
     virtual void mostra() = 0;
     virtual void nascondi() = 0;
+    /// Paints at once what has changed.
+    virtual void ridisegna() = 0;
     virtual void riduci(bool ridotta) = 0;
     [[nodiscard]] virtual bool ridotta() const = 0;
     virtual void titolo(const std::string& testo) = 0;

@@ -20,6 +20,8 @@ public:
     /// Shows the window and raises it; a loaded window isn't loaded again.
     virtual void Mostra() = 0;
     virtual void Nascondi() = 0;
+    /// Paints at once what has changed.
+    virtual void Ridisegna() = 0;
     /// Minimised or normal.
     virtual void Riduci(bool ridotta) = 0;
     /// Top, Left, Width, Height in twips of the desktop.

@@ -81,6 +81,11 @@ void VideataLumigrafo::Nascondi() {
         scheda->finestra()->nascondi();
 }
 
+void VideataLumigrafo::Ridisegna() {
+    if (const auto scheda = carica(); scheda->finestra())
+        scheda->finestra()->ridisegna();
+}
+
 void VideataLumigrafo::Riduci(bool ridotta) {
     if (const auto scheda = carica(); scheda->finestra())
         scheda->finestra()->riduci(ridotta);

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] bool caricata() const override { return scheda_ != nullptr; }
     void Mostra() override;
     void Nascondi() override;
+    void Ridisegna() override;
     void Riduci(bool ridotta) override;
     void Posiziona(const Rettangolo& posto) override;
     void Blinka(std::int16_t indice) override;

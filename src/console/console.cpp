@@ -21,8 +21,9 @@ constexpr Twip kAllargamento = 300;
 Console::Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole& finestra,
                  FabbricaVideata fabbrica)
     : stato_(stato), controlli_(kLayout_frmGestione), contesto_{stato_, controlli_, finestra, porte},
-      caricatore_(contesto_), dispositore_(contesto_, caricatore_, std::move(fabbrica)),
-      chiamata_(contesto_, caricatore_), scansione_(contesto_, chiamata_), ripetizione_(contesto_),
+      caricatore_(contesto_), richiami_(contesto_, caricatore_),
+      dispositore_(contesto_, caricatore_, std::move(fabbrica)), chiamata_(contesto_, caricatore_),
+      scansione_(contesto_, chiamata_), ripetizione_(contesto_),
       Timer1_(porte.timers.crea(32000ms, [this] { caricatore_.CaricaVideataInizio(true); })),
       comandi_(contesto_, *Timer1_), avvio_(contesto_, caricatore_, dispositore_, comandi_, *Timer1_) {
     for (Griglia& grid : stato_.grid) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "console/avvio.h"
+#include "console/richiami.h"
 #include "console/ripetizione.h"
 #include "console/scansione.h"
 
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] const Controlli& controlli() const { return controlli_; }
     [[nodiscard]] StatoConsole& stato() { return stato_; }
     [[nodiscard]] const StatoConsole& stato() const { return stato_; }
+    /// What its dialogs call back.
+    [[nodiscard]] RichiamiConsole& richiami() { return richiami_; }
 
     void carica() { avvio_.carica(); }
     void attiva() { avvio_.attiva(); }
@@ -55,6 +58,7 @@ private:
     Controlli controlli_;
     ContestoConsole contesto_;
     Caricatore caricatore_;
+    Richiami richiami_;
     DispositoreConsole dispositore_;
     Chiamata chiamata_;
     Scansione scansione_;

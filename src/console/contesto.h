@@ -39,6 +39,7 @@ struct PorteConsole {
     Uscita& uscita;
     Dialoghi& dialoghi;
     Annunciatore& annunciatore;
+    Parlante& parlante;
     Fiscale& fiscale;
     LumigrafiAndroid& android;
     ServerCasse& server;

@@ -14,6 +14,9 @@ public:
     /// Opens the system's display settings for the operator. `comandi` is the batch file that does so on the
     /// first platform; elsewhere the desktop's own program is started. Throws Guasto 53 where there is none.
     virtual void apriImpostazioni(const std::filesystem::path& comandi) = 0;
+    /// Starts the system's on-screen keyboard. `programma` is the one of the first platform, started
+    /// minimised; elsewhere it is what the desktop has. Throws Guasto 53 where there is none.
+    virtual void apriTastiera(const std::filesystem::path& programma) = 0;
 };
 
 } // namespace lumigrafo

@@ -143,15 +143,11 @@ TEST(SceltaVoce, FirstDescriptionThatHoldsTheName) {
     }
 }
 
-TEST(SceltaVoce, WithoutAVoiceATextSpokenAtOnceFails) {
+TEST(SceltaVoce, ATextSpokenAtOnceIsHeardAlsoWhereTheCallsAreSilent) {
     BancoVoce b;
-    try {
-        b.annunciatore.Parla("testo");
-        FAIL();
-    } catch (const Guasto& guasto) {
-        EXPECT_EQ(guasto.numero(), guasti::kOggettoMancante);
-    }
-    EXPECT_FALSE(b.voce.accesa);
+    b.annunciatore.Parla("testo");
+    EXPECT_TRUE(b.voce.accesa);
+    EXPECT_THAT(b.diario, ElementsAre("Speak testo -3 80"));
 }
 
 } // namespace

@@ -35,6 +35,7 @@ public:
     ~FinestraFinta() override { vista_.aperta = vista_.inVista = false; }
     void mostra() override { vista_.inVista = true; }
     void nascondi() override { vista_.inVista = false; }
+    void ridisegna() override {}
     void riduci(bool ridotta) override { vista_.ridotta = ridotta; }
     [[nodiscard]] bool ridotta() const override { return vista_.ridotta; }
     void titolo(const std::string& testo) override { vista_.titolo = testo; }

@@ -14,7 +14,8 @@ Console& Banco::console() {
     console_ = std::make_unique<Console>(
         stato,
         PorteConsole{ambiente, orologio, *pompaConsole_, iTimers, avvisi, messaggi, processi, alimentazione,
-                     sistema, desktop, uscita, dialoghi, annunciatore, fiscale, android, server},
+                     sistema, desktop, uscita, dialoghi, annunciatore, annunciatore, fiscale, android,
+                     server},
         finestraVera ? *finestraVera : finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board unless asked otherwise: it has the slots of all three quadrants.

@@ -48,11 +48,12 @@ public:
     }
 };
 
-class AnnunciatoreFinto : public Annunciatore, Annotatore {
+class AnnunciatoreFinto : public Annunciatore, public Parlante, Annotatore {
 public:
     explicit AnnunciatoreFinto(Diario& diario) : Annotatore(diario) {}
     void ScegliVoce() override { annota("ScegliVoce"); }
     void AccodaAnnuncio(const std::string& testo) override { annota("voce " + testo); }
+    void Parla(const std::string& testo) override { annota("parla " + testo); }
 };
 
 class FiscaleFinto : public Fiscale, Annotatore {
@@ -99,6 +100,7 @@ public:
 
     void mostra() override { annota("videata in vista"); }
     void nascondi() override { annota("videata nascosta"); }
+    void ridisegna() override { annota("videata ridisegnata"); }
     void riduci(bool ridotta) override {
         ridotta_ = ridotta;
         annota(ridotta ? "videata ridotta" : "videata normale");

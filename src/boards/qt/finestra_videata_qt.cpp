@@ -24,6 +24,7 @@ public:
 
     void mostra() override;
     void nascondi() override { finestra_->hide(); }
+    void ridisegna() override { finestra_->ridisegna(); }
     void riduci(bool ridotta) override;
     [[nodiscard]] bool ridotta() const override { return finestra_->isMinimized(); }
     void titolo(const std::string& testo) override {

@@ -3,7 +3,6 @@
 #include "forms/qt/griglia_widget.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -82,8 +81,7 @@ void frmGestione::InPrimoPiano() {
 }
 
 void frmGestione::Ridisegna() {
-    // Paints what is due, and no more: a plain repaint would leave out what an opaque child covers.
-    QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
+    contenuto_->ridisegna();
 }
 
 void frmGestione::Massimizza() {

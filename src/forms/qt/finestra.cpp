@@ -149,8 +149,8 @@ void Finestra::cambiato(const Controllo& c, Aspetto aspetto) {
     }
 }
 
-/// The focus of a window that lies behind another is of no use: on a station with one monitor the board stands over
-/// the console.
+/// The focus of a window that lies behind another is of no use: on a station with one monitor the board
+/// stands over the console.
 void Finestra::prendiFuoco(QWidget& w) {
     w.setFocus(Qt::OtherFocusReason);
     if (!window()->isActiveWindow() && !QApplication::activeModalWidget()) {
@@ -175,6 +175,11 @@ GrigliaWidget& Finestra::collegaGriglia(std::string_view nome, int indice, Grigl
 void Finestra::sfondo(Colore c) {
     sfondo_ = c;
     update();
+}
+
+void Finestra::ridisegna() {
+    // Not repaint(): it would leave out what an opaque child covers.
+    QCoreApplication::sendPostedEvents(window(), QEvent::UpdateRequest);
 }
 
 void Finestra::resizeEvent(QResizeEvent*) {

@@ -41,6 +41,8 @@ public:
     GrigliaWidget& collegaGriglia(std::string_view nome, int indice, Griglia& griglia);
     /// Lays all controls out anew for the present size.
     void ridisponi() { disponi(); }
+    /// Paints at once what has changed since the last painting, and no more.
+    void ridisegna();
     /// The window's own back colour.
     void sfondo(Colore c);
 

@@ -149,6 +149,12 @@ void DesktopFinto::apriImpostazioni(const std::filesystem::path& comandi) {
         throw Guasto(guasti::kFileNonTrovato);
 }
 
+void DesktopFinto::apriTastiera(const std::filesystem::path& programma) {
+    annota(diario_, "tastiera " + programma.string());
+    if (!capace)
+        throw Guasto(guasti::kFileNonTrovato);
+}
+
 void UscitaFinta::termina(int codice) {
     annota(diario_, "fine " + std::to_string(codice));
     throw FineProcesso{codice};

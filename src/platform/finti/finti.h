@@ -151,6 +151,7 @@ public:
 
     void estendi() override;
     void apriImpostazioni(const std::filesystem::path& comandi) override;
+    void apriTastiera(const std::filesystem::path& programma) override;
 
 private:
     Diario* diario_;

@@ -23,6 +23,16 @@ const std::array<std::vector<std::string>, 7> kImpostazioni{{
     {"arandr"},
 }};
 
+/// On-screen keyboards, the preferred one first.
+const std::array<std::vector<std::string>, 6> kTastiere{{
+    {"onboard"},
+    {"florence"},
+    {"squeekboard"},
+    {"wvkbd-mobintl"},
+    {"matchbox-keyboard"},
+    {"xvkbd"},
+}};
+
 /// One connected output and its place on the desktop, "1920x1080+0+0"; empty where it is off.
 struct Collegato {
     std::string nome;
@@ -85,14 +95,22 @@ void DesktopLinux::estendi() {
         processi_.avvia("xrandr", argomenti, StileFinestra::Ridotta);
 }
 
-void DesktopLinux::apriImpostazioni(const std::filesystem::path&) {
-    for (const auto& comando : kImpostazioni)
+void DesktopLinux::avviaUno(std::span<const std::vector<std::string>> comandi) {
+    for (const auto& comando : comandi)
         if (ignorandoGuasti([&] {
                 processi_.avvia(comando.front(), {comando.begin() + 1, comando.end()},
                                 StileFinestra::Normale);
             }))
             return;
     throw Guasto(guasti::kFileNonTrovato);
+}
+
+void DesktopLinux::apriImpostazioni(const std::filesystem::path&) {
+    avviaUno(kImpostazioni);
+}
+
+void DesktopLinux::apriTastiera(const std::filesystem::path&) {
+    avviaUno(kTastiere);
 }
 
 } // namespace lumigrafo

@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 #include "platform/processi.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,8 +16,12 @@ public:
     explicit DesktopLinux(Processi& processi) : processi_(processi) {}
     void estendi() override;
     void apriImpostazioni(const std::filesystem::path& comandi) override;
+    void apriTastiera(const std::filesystem::path& programma) override;
 
 private:
+    /// The first program that is installed.
+    void avviaUno(std::span<const std::vector<std::string>> comandi);
+
     Processi& processi_;
 };
 
