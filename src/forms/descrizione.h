@@ -19,6 +19,7 @@ enum class Tipo : std::uint8_t {
     Immagine,  ///< a picture from the resources
     Bottone,   ///< push button with a text, a picture or both
     Casella,   ///< text box
+    Righe,     ///< text box of several lines, with a scroll bar; line ends of its caption are CR LF
     Griglia,   ///< grid of text cells
     Linea,     ///< rule
 };

@@ -2,6 +2,7 @@
 
 #include "forms/qt/bottone.h"
 #include "forms/qt/casella.h"
+#include "forms/qt/casella_righe.h"
 #include "forms/qt/etichetta.h"
 #include "forms/qt/griglia_widget.h"
 #include "forms/qt/immagine.h"
@@ -37,6 +38,15 @@ Costruito casella(Controllo& c, QWidget* padre, const Segnali& segnali) {
     return {w, w};
 }
 
+Costruito casellaRighe(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    auto* w = new CasellaRigheWidget(padre);
+    QObject::connect(w, &QPlainTextEdit::textChanged, w, [w, &c, &segnali] {
+        if (!w->inMostra())
+            segnali.testo(c, w->testo());
+    });
+    return {w, w};
+}
+
 Costruito griglia(QWidget* padre) {
     auto* w = new GrigliaWidget(padre);
     return {w, w};
@@ -58,6 +68,8 @@ Costruito costruisci(Controllo& c, QWidget* padre, const Segnali& segnali) {
         return bottone(c, padre, segnali);
     case Tipo::Casella:
         return casella(c, padre, segnali);
+    case Tipo::Righe:
+        return casellaRighe(c, padre, segnali);
     case Tipo::Griglia:
         return griglia(padre);
     case Tipo::Linea:

@@ -108,7 +108,8 @@ void Finestra::mostra(const Controllo& c, const Costruito& fatto, const Scala& s
 
 void Finestra::nomina(const Controllo& c, QWidget& w) const {
     const Descrizione& d = c.disegno();
-    const bool contenuto = d.tipo == Tipo::Casella; // its caption is what was typed, not what it is
+    const bool contenuto = d.tipo == Tipo::Casella ||
+                           d.tipo == Tipo::Righe; // its caption is what was typed, not what it is
     QString nome = testo(d.nomeAccessibile);
     if (nome.isEmpty() && !contenuto)
         nome = testo(c.Caption());
