@@ -20,6 +20,8 @@ enum class Tipo : std::uint8_t {
     Bottone,   ///< push button with a text, a picture or both
     Casella,   ///< text box
     Righe,     ///< text box of several lines, with a scroll bar; line ends of its caption are CR LF
+    Tastiera,  ///< on-screen keyboard that types into the box with the focus
+    Numerica,  ///< its form with digits alone
     Griglia,   ///< grid of text cells
     Linea,     ///< rule
 };

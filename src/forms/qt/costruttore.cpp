@@ -7,6 +7,7 @@
 #include "forms/qt/griglia_widget.h"
 #include "forms/qt/immagine.h"
 #include "forms/qt/riquadro.h"
+#include "forms/qt/tastiera_widget.h"
 
 namespace lumigrafo {
 
@@ -47,6 +48,11 @@ Costruito casellaRighe(Controllo& c, QWidget* padre, const Segnali& segnali) {
     return {w, w};
 }
 
+Costruito tastiera(Tastiera::Forma forma, QWidget* padre) {
+    auto* w = new TastieraWidget(forma, padre);
+    return {w, w};
+}
+
 Costruito griglia(QWidget* padre) {
     auto* w = new GrigliaWidget(padre);
     return {w, w};
@@ -70,6 +76,10 @@ Costruito costruisci(Controllo& c, QWidget* padre, const Segnali& segnali) {
         return casella(c, padre, segnali);
     case Tipo::Righe:
         return casellaRighe(c, padre, segnali);
+    case Tipo::Tastiera:
+        return tastiera(Tastiera::Forma::Completa, padre);
+    case Tipo::Numerica:
+        return tastiera(Tastiera::Forma::Numerica, padre);
     case Tipo::Griglia:
         return griglia(padre);
     case Tipo::Linea:
