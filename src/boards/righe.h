@@ -126,12 +126,15 @@ template <std::size_t N>
 /// The panel of the operator's message, over the whole window.
 [[nodiscard]] constexpr std::array<Descrizione, 2> comunicazione(Twip larghezza, Twip altezza) {
     const Rettangolo tutto{0, 0, larghezza, altezza};
+    Descrizione testo =
+        scritta("lblComunicazione", kSenzaIndice, "picComunicazione", tutto, {"Arial", 84.75, true});
+    testo.margine = 240;
     return {{{.tipo = Tipo::Riquadro,
               .nome = "picComunicazione",
               .rett = tutto,
               .sfondo = kNero,
               .visibile = false},
-             scritta("lblComunicazione", kSenzaIndice, "picComunicazione", tutto, {"Arial", 84.75, true})}};
+             testo}};
 }
 
 /// The panel of the advertising pictures.

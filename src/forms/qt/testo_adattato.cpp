@@ -41,8 +41,21 @@ QFont inUnaRiga(const QString& testo, const QFont& carattere, QSize area) {
     return f;
 }
 
+/// The share of its size beyond which a text surely doesn't fit, however its lines break: a long one is
+/// measured a few times, not at every size.
+double quotaMassima(const QString& testo, const QFont& carattere, QSize area) {
+    constexpr double kAgio = 1.1;
+    const QFontMetricsF m(carattere);
+    const auto righe = static_cast<double>(testo.count(QLatin1Char('\n')) + 1);
+    const double superficie = std::max(1.0, m.horizontalAdvance(testo) * m.height());
+    return kAgio * std::min(std::sqrt(area.width() * static_cast<double>(area.height()) / superficie),
+                            area.height() / (righe * m.height()));
+}
+
 QFont inPiuRighe(const QString& testo, const QFont& carattere, QSize area, int modo) {
     QFont f = carattere;
+    if (const double quota = quotaMassima(testo, carattere, area); quota < 1)
+        f = conPixel(f, static_cast<int>(f.pixelSize() * quota));
     const QRectF larga(0, 0, area.width(), 1e6);
     for (;;) {
         const QRectF occupato = QFontMetricsF(f).boundingRect(larga, modo, testo);
