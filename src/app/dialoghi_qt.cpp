@@ -1,6 +1,8 @@
 #include "app/dialoghi_qt.h"
 
 #include "boards/qt/sagoma_qt.h"
+#include "settings/qt/comunicazione_qt.h"
+#include "settings/qt/ripristina_qt.h"
 #include "settings/qt/spegni_qt.h"
 
 #include <utility>
@@ -8,10 +10,10 @@
 namespace lumigrafo {
 
 DialoghiQt::DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione,
-                       Uscita& uscita, std::function<Rettangolo()> console,
+                       Uscita& uscita, Orologio& orologio, std::function<Rettangolo()> console,
                        std::function<RichiamiConsole&()> richiami)
     : sagoma_(sagoma), console_(std::move(console)), richiami_(std::move(richiami)), processi_(processi),
-      alimentazione_(alimentazione), uscita_(uscita) {}
+      alimentazione_(alimentazione), uscita_(uscita), orologio_(orologio) {}
 
 void DialoghiQt::manca(const char* cosa) {
     sagoma_.avvisi.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",
@@ -30,13 +32,13 @@ void DialoghiQt::frmDatabase() {
     manca("La scelta della cartella dell'archivio");
 }
 void DialoghiQt::frmRipristina() {
-    manca("Il ripristino di un numero");
+    mostraRipristina({sagoma_.ambiente, richiami_(), orologio_, sagoma_.pompa});
 }
 void DialoghiQt::frmInserisciNumeri() {
     manca("Il caricamento dei numeri");
 }
 void DialoghiQt::frmComunicazione() {
-    manca("Il messaggio al pubblico");
+    mostraComunicazione({sagoma_.ambiente, richiami_(), sagoma_.desktop, sagoma_.messaggi});
 }
 void DialoghiQt::frmImposta() {
     manca("La finestra delle impostazioni");

@@ -3,6 +3,7 @@
 #include "boards/sagoma.h"
 #include "platform/alimentazione.h"
 #include "platform/avvisi.h"
+#include "platform/orologio.h"
 #include "platform/processi.h"
 #include "platform/sistema.h"
 #include "settings/dialoghi.h"
@@ -17,7 +18,8 @@ class DialoghiQt : public Dialoghi {
 public:
     /// `console`: where the console stands on the desktop, twips. `richiami`: what dialogs call back in it.
     DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
-               std::function<Rettangolo()> console, std::function<RichiamiConsole&()> richiami);
+               Orologio& orologio, std::function<Rettangolo()> console,
+               std::function<RichiamiConsole&()> richiami);
 
     void frmSpegni() override;
     void frmDatabase() override;
@@ -38,6 +40,7 @@ private:
     Processi& processi_;
     Alimentazione& alimentazione_;
     Uscita& uscita_;
+    Orologio& orologio_;
 };
 
 } // namespace lumigrafo

@@ -19,7 +19,7 @@ Programma::Programma(const Ambiente& ambiente, Avvisi& avvisi, Uscita& uscita)
     : ambiente_(ambiente), sistema_(ambiente.cartella, [] { QApplication::beep(); }),
       dialoghi_(
           {ambiente_, pompa_, avvisi, messaggi_, schermi_, desktop_}, processi_, alimentazione_, uscita,
-          [this] { return postoDi(finestra_); },
+          orologio_, [this] { return postoDi(finestra_); },
           [this]() -> RichiamiConsole& { return console_.richiami(); }),
       annunciatore_(voce_, log_, pompa_, dati_,
                     [this](const std::string& testo) { notifiche_.NotificaPopup(testo); }),

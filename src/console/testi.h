@@ -1,5 +1,7 @@
 #pragma once
 
+#include "data/ordine.h"
+
 #include <string>
 #include <string_view>
 
@@ -12,13 +14,5 @@ namespace lumigrafo {
 
 /// The same as a board slot and the console's label hold it: one blank.
 [[nodiscard]] std::string testoVideata(std::string_view sigla, std::string_view numero);
-
-/// Letter and number of a grid cell.
-struct Ordine {
-    std::string sigla;  ///< one character, or empty
-    std::string numero; ///< trimmed
-};
-/// Splits a cell's text, which mustn't be blank. A text that begins with a digit has no letter.
-[[nodiscard]] Ordine dividiCella(std::string_view testo);
 
 } // namespace lumigrafo

@@ -2,10 +2,6 @@
 
 namespace lumigrafo {
 
-std::string chiaveUltimo(int quadrante, int eta) {
-    return "Ultimo_" + std::to_string(quadrante) + "_" + std::to_string(eta);
-}
-
 void AggiornaUltimiChiamati(StatoConsole& stato, const FileIni& ultimi, std::int16_t index,
                             const std::string& testo) {
     const auto q = static_cast<std::size_t>(index);

@@ -14,7 +14,4 @@ namespace lumigrafo {
 void AggiornaUltimiChiamati(StatoConsole& stato, const FileIni& ultimi, std::int16_t index,
                             const std::string& testo);
 
-/// The key of one entry: quadrant and age, 0 the newest.
-[[nodiscard]] std::string chiaveUltimo(int quadrante, int eta);
-
 } // namespace lumigrafo

@@ -65,5 +65,11 @@ inline constexpr const char* kSezioneImpostazioni = "Impostazioni";
 inline constexpr const char* kSezioneForm = "FormLumigrafo";
 inline constexpr const char* kSezioneAndroid = "Android";
 inline constexpr const char* kSezioneUltimi = "Impo";
+inline constexpr const char* kFileMessaggi = "Messaggi.ini";
+
+/// The key of a called number: quadrant and age, 0 the newest.
+[[nodiscard]] inline std::string chiaveUltimo(int quadrante, int eta) {
+    return "Ultimo_" + std::to_string(quadrante) + "_" + std::to_string(eta);
+}
 
 } // namespace lumigrafo

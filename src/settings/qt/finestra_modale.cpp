@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 #include <algorithm>
@@ -21,14 +22,17 @@ void disponi(Finestra& finestra, const QWidget* attiva) {
     const QRect lavoro = (attiva ? attiva->screen() : QApplication::primaryScreen())->availableGeometry();
     const double scala =
         std::max(1.0, std::min(lavoro.width() / kSchermoLarghezza, lavoro.height() / kSchermoAltezza));
-    QRect posto(QPoint(), (finestra.size() * scala).boundedTo(lavoro.size()));
-    posto.moveCenter(lavoro.center());
+    const bool nuda = finestra.windowFlags().testFlag(Qt::FramelessWindowHint);
+    const int titolo = nuda ? 0 : finestra.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QRect libero = lavoro.adjusted(0, titolo, 0, 0);
+    QRect posto(QPoint(), (finestra.size() * scala).boundedTo(libero.size()));
+    posto.moveCenter(libero.center());
     finestra.setGeometry(posto);
 }
 
 } // namespace
 
-void FinestraModale::esegui(Finestra& finestra) {
+void FinestraModale::esegui(Finestra& finestra, const std::function<void()>& mostrata) {
     vista_ = &finestra;
     const QWidget* attiva = QApplication::activeWindow();
     disponi(finestra, attiva);
@@ -36,13 +40,16 @@ void FinestraModale::esegui(Finestra& finestra) {
     finestra.winId(); // makes the system's window, so that it can be tied to the one it stands over
     finestra.windowHandle()->setTransientParent(attiva ? attiva->windowHandle() : nullptr);
     finestra.allaChiusura([this] {
-        ciclo_.quit();
-        return true;
+        if (chiudibile_)
+            ciclo_.quit();
+        return chiudibile_;
     });
     finestra.setFocus(); // no control has it: a scanner's keys must not press a button
     finestra.show();
     finestra.raise();
     finestra.activateWindow();
+    if (mostrata)
+        mostrata();
     ciclo_.exec();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QEventLoop>
 
+#include <functional>
+
 namespace lumigrafo {
 
 class Finestra;
@@ -10,8 +12,11 @@ class Finestra;
 /// window that is active now. Nothing else can be clicked meanwhile.
 class FinestraModale {
 public:
-    /// Returns after `fine`, or after the window was closed.
-    void esegui(Finestra& finestra);
+    /// The window has no other way out than its own buttons: the system's close is refused.
+    void soloDaDentro() { chiudibile_ = false; }
+    /// Returns after `fine`, or after the window was closed. `mostrata` runs once it is on show: a control
+    /// that is to have the focus gets it there; else none has it.
+    void esegui(Finestra& finestra, const std::function<void()>& mostrata = {});
     /// The window goes out of sight at once, though its loop may have to wait for one that was started inside
     /// it.
     void fine();
@@ -19,6 +24,7 @@ public:
 private:
     QEventLoop ciclo_;
     Finestra* vista_ = nullptr;
+    bool chiudibile_ = true;
 };
 
 } // namespace lumigrafo

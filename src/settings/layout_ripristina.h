@@ -1,0 +1,10 @@
+#pragma once
+
+#include "forms/descrizione.h"
+
+namespace lumigrafo {
+
+/// The restore dialog.
+extern const Layout kLayoutRipristina;
+
+} // namespace lumigrafo
