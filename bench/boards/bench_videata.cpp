@@ -1,5 +1,5 @@
-// What a board does all evening: a tick of the blink, a new number, the next advertising picture; each until
-// it is painted, beside a bare window that does the same.
+// What a board does all evening: a tick of the blink, a new number, the next advertising picture, the
+// operator's message; each until it is painted, beside a bare window that does the same.
 #include "boards/crea_videata.h"
 #include "boards/qt/finestra_videata_qt.h"
 #include "forms/qt/immagine.h"
@@ -140,6 +140,51 @@ void cambioNudo(benchmark::State& stato) {
     }
 }
 
+/// A message as long as the argument says, a new one each time.
+std::string messaggio(benchmark::State& stato, int volta) {
+    const std::string frase = "C'è da spostare al più presto una FIAT BIANCHINA targata EG 121 BT. ";
+    std::string testo = std::to_string(volta % 10) + " ";
+    while (testo.size() < static_cast<std::size_t>(stato.range(0)))
+        testo += frase;
+    return testo;
+}
+
+void comunicazione(benchmark::State& stato) {
+    Tabellone t(TipoVideata::frmLumigrafo);
+    int volta = 0;
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        t.videata->controlli()("picComunicazione").Visible(false);
+        t.dipingi();
+        const std::string testo = messaggio(stato, volta++);
+        stato.ResumeTiming();
+        // What the message window's button does.
+        t.videata->controlli()("lblComunicazione").Caption(testo);
+        t.videata->controlli()("picComunicazione").ZOrder();
+        t.videata->controlli()("picComunicazione").Visible(true);
+        t.videata->Ridisegna();
+    }
+}
+
+void comunicazioneNuda(benchmark::State& stato) {
+    Nudo n;
+    n.etichetta.setGeometry(n.finestra.rect());
+    n.etichetta.setWordWrap(true);
+    n.etichetta.setFont(carattere(QStringLiteral("Arial"), stato.range(0) > 1000 ? 24 : 140, true, false));
+    int volta = 0;
+    for (auto _ : stato) {
+        stato.PauseTiming();
+        n.etichetta.hide();
+        n.dipingi();
+        const QString testo = QString::fromStdString(messaggio(stato, volta++));
+        stato.ResumeTiming();
+        n.etichetta.setText(testo);
+        n.etichetta.show();
+        n.etichetta.update(); // a show alone leaves the painting to a later turn of the loop
+        n.dipingi();
+    }
+}
+
 void immagine(benchmark::State& stato) {
     Tabellone t(TipoVideata::frmLumigrafo1Reparto);
     for (auto _ : stato) {
@@ -185,6 +230,8 @@ BENCHMARK(lampeggio)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(lampeggioNudo)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(cambioNumero)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(cambioNudo)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(comunicazione)->Arg(60)->Arg(5000)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(comunicazioneNuda)->Arg(60)->Arg(5000)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(immagine)->Unit(benchmark::kMicrosecond)->UseRealTime();
 BENCHMARK(fermoDelLampeggio)
     ->ArgName("progressiva")

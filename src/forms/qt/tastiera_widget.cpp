@@ -182,9 +182,11 @@ bool TastieraWidget::event(QEvent* evento) {
         return true;
     case QEvent::TouchEnd:
     case QEvent::TouchCancel:
+        rilascia();
+        return true;
     case QEvent::Hide:
         rilascia();
-        return QWidget::event(evento) || evento->type() != QEvent::Hide;
+        return QWidget::event(evento);
     default:
         return QWidget::event(evento);
     }
