@@ -50,9 +50,7 @@ void RegistroLog::ScriviLog(const std::string& messaggio) {
     std::ofstream f;
     if (!ignorandoGuasti([&] { f = apri(fileDiOra(), std::ios::app); }))
         f = apri(fileDiOra(), std::ios::trunc);
-    const DataOra ora = orologio_.adesso();
-    scriviRiga(std::move(f), dueCifre(ora.ora) + ":" + dueCifre(ora.minuto) + ":" + dueCifre(ora.secondo) +
-                                 "  " + messaggio);
+    scriviRiga(std::move(f), testoOra(orologio_.adesso()) + "  " + messaggio);
 }
 
 void RegistroLog::ScriviLogConnessioni(const std::string& messaggio) {

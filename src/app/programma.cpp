@@ -23,6 +23,8 @@ Programma::Programma(const Ambiente& ambiente, Avvisi& avvisi, Uscita& uscita)
           [this]() -> RichiamiConsole& { return console_.richiami(); }),
       annunciatore_(voce_, log_, pompa_, dati_,
                     [this](const std::string& testo) { notifiche_.NotificaPopup(testo); }),
+      server_(reteCasse_, coda_, orologio_, avvisi, sistema_,
+              [this](const std::string& riga) { log_.ScriviLogConnessioni(riga); }),
       servizi_{ambiente_, pompa_, timers_, dati_, sceltaFile_},
       console_(stato_,
                PorteConsole{ambiente_, orologio_, pompa_, timers_, avvisi, messaggi_, processi_,

@@ -3,16 +3,19 @@
 #include "announce/annunciatore_vocale.h"
 #include "app/dialoghi_qt.h"
 #include "boards/crea_videata.h"
+#include "console/avanti_prossimo.h"
 #include "console/dati_stato.h"
 #include "console/pompa_console.h"
 #include "console/qt/frmGestione.h"
 #include "links/collegamento_android.h"
+#include "links/server_casse.h"
 #include "platform/linux/alimentazione.h"
 #include "platform/linux/cliente_tcp.h"
 #include "platform/linux/desktop.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
 #include "platform/linux/sistema.h"
+#include "platform/qt/ascolto_tcp_qt.h"
 #include "platform/qt/notifiche_qt.h"
 #include "platform/qt/pompa_qt.h"
 #include "platform/qt/scelta_file_qt.h"
@@ -57,7 +60,9 @@ private:
     ClienteTcpLinux rete_;
     CollegamentoAndroid android_{FileIni(ambiente_.file(kFileImpostazioni)), dati_, orologio_, rete_,
                                  notifiche_};
-    ServerAssente server_;
+    AvantiProssimo coda_{stato_, annunciatore_};
+    ReteTcpQt reteCasse_;
+    ServerCasseTcp server_;
     frmGestione finestra_;
     SceltaFileQt sceltaFile_{finestra_};
     ServiziSchede servizi_;

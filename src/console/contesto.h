@@ -56,11 +56,7 @@ struct ContestoConsole {
     FileIni ultimi{porte.ambiente.file(kFileUltimiChiamati)};
 
     /// The board in use. Throws Guasto 91 once the settings dialog has taken it out of memory.
-    [[nodiscard]] Videata& frmVideata() const {
-        if (!stato.frmVideata)
-            throw Guasto(guasti::kOggettoMancante);
-        return *stato.frmVideata;
-    }
+    [[nodiscard]] Videata& frmVideata() const { return stato.videataInUso(); }
     /// Lets pending events through.
     void cedi(std::string_view punto) { porte.pompa.cedi(punto); }
     /// A scanner needs this field: nearly every action gives it the focus back.

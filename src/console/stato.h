@@ -4,6 +4,7 @@
 #include "data/dao.h"
 #include "forms/griglia.h"
 #include "links/collegamenti.h"
+#include "platform/guasto.h"
 #include "platform/orologio.h"
 
 #include <array>
@@ -48,6 +49,7 @@ struct StatoConsole {
 
     bool ModalitaDepennamento = false;
     bool BarCodeInCorso = false;
+    bool Occupato = false; ///< a number is being taken for a cash desk
 
     std::array<std::int16_t, kCategorie + 1> PezziCategoria{};
     /// Last order placed in each quadrant while the grids are rebuilt.
@@ -58,6 +60,13 @@ struct StatoConsole {
 
     std::array<Griglia, kQuadranti> grid;
     std::unique_ptr<Videata> frmVideata; ///< the board of this run
+
+    /// The board in use. Throws Guasto 91 once the settings dialog has taken it out of memory.
+    [[nodiscard]] Videata& videataInUso() const {
+        if (!frmVideata)
+            throw Guasto(guasti::kOggettoMancante);
+        return *frmVideata;
+    }
 };
 
 } // namespace lumigrafo

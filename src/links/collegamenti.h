@@ -20,18 +20,23 @@ public:
     virtual void SincronizzaLumAndroid(std::int16_t last) = 0;
 };
 
+/// The queue of the next-customer system, as the server of the cash desks uses it.
+class CodaCasse {
+public:
+    virtual ~CodaCasse() = default;
+    /// A number is being taken. Another request can arrive meanwhile, and must not take a second one.
+    [[nodiscard]] virtual bool Occupato() const = 0;
+    /// Takes the next number for the desk with that letter: it leaves the queue, goes up on the board and is
+    /// spoken. Empty where there is none. Throws Guasto where the archive refuses, and stays busy then.
+    virtual std::string ProssimoNumero(const std::string& Cassa) = 0;
+};
+
 /// The server that cash desks ask for the next number.
 class ServerCasse {
 public:
     virtual ~ServerCasse() = default;
     /// Opens the listening socket; a failure is shown, and the run goes on without a server.
     virtual void Apri() = 0;
-};
-
-/// For a station whose operator calls the numbers.
-class ServerAssente : public ServerCasse {
-public:
-    void Apri() override {}
 };
 
 } // namespace lumigrafo

@@ -10,4 +10,9 @@ Data ieri(Data data) {
             static_cast<int>(static_cast<unsigned>(g.day()))};
 }
 
+std::string testoOra(const DataOra& adesso) {
+    const auto dueCifre = [](int n) { return (n < 10 ? "0" : "") + std::to_string(n); };
+    return dueCifre(adesso.ora) + ":" + dueCifre(adesso.minuto) + ":" + dueCifre(adesso.secondo);
+}
+
 } // namespace lumigrafo

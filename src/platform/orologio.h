@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <string>
 
 namespace lumigrafo {
 
@@ -18,6 +19,9 @@ struct DataOra {
 
 /// The day before.
 [[nodiscard]] Data ieri(Data data);
+
+/// Time of day in the system's default form, "hh:mm:ss".
+[[nodiscard]] std::string testoOra(const DataOra& adesso);
 
 /// The clock, and the waits that the behaviour demands.
 class Orologio {

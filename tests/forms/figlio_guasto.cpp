@@ -7,6 +7,8 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QMessageBox>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTimer>
 
 #include <cstdio>
@@ -37,6 +39,26 @@ void fallisci(const QString& modo) {
     throw lumigrafo::Guasto(6, "Overflow");
 }
 
+/// Two network sockets have data at once; the first one's routine fails.
+void falliscePerLaRete() {
+    auto* ascolto = new QTcpServer(qApp);
+    ascolto->listen(QHostAddress::LocalHost);
+    QObject::connect(ascolto, &QTcpServer::newConnection, qApp, [ascolto] {
+        QTcpSocket* presa = ascolto->nextPendingConnection();
+        QObject::connect(presa, &QTcpSocket::readyRead, qApp, [] {
+            ++altriScatti;
+            fallisci(QStringLiteral("rete"));
+        });
+    });
+    for (int i = 0; i < 2; ++i) {
+        auto* cliente = new QTcpSocket(qApp);
+        cliente->connectToHost(QHostAddress(QHostAddress::LocalHost), ascolto->serverPort());
+        cliente->waitForConnected();
+        cliente->write("A");
+        cliente->flush();
+    }
+}
+
 void avvia(const QString& modo) {
     QTimer::singleShot(0, qApp, chiudiAvviso);
     if (modo == QStringLiteral("avvio"))
@@ -46,6 +68,8 @@ void avvia(const QString& modo) {
         figura.carica(modo.toStdString(), {{10, 10}, lumigrafo::Adattamento::Stirata, 1});
         return;
     }
+    if (modo == QStringLiteral("rete"))
+        return falliscePerLaRete();
     auto* altro = new QTimer(qApp);
     QObject::connect(altro, &QTimer::timeout, qApp, [modo] {
         ++altriScatti;

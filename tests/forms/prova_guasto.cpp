@@ -19,7 +19,8 @@ struct Caso {
 
 class GuastoNonPreso : public testing::TestWithParam<Caso> {};
 
-// The box, then the end: no destructor of the windows below runs, no second box shows, no timer goes on.
+// The box, then the end: no destructor of the windows below runs, no second box shows, no timer and no network
+// goes on.
 void finisce(const QString& modo, const std::string& detto) {
     QProcess figlio;
     figlio.start(QStringLiteral(FIGLIO_GUASTO), {modo});
@@ -45,7 +46,8 @@ TEST(GuastoNonPreso, UnaFotografiaRottaFinisceUguale) {
 
 INSTANTIATE_TEST_SUITE_P(
     Modi, GuastoNonPreso,
-    testing::Values(Caso{"timer", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|1\n"},
+    testing::Values(Caso{"rete", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|1\n"},
+                    Caso{"timer", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|1\n"},
                     Caso{"eccezione", "Lumigrafo|Errore di run-time '51':\n\ncattiva|3|1\n"},
                     Caso{"avvio", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|0\n"}),
     [](const auto& prova) { return std::string(prova.param.modo); });

@@ -2,6 +2,7 @@
 
 #include "platform/qt/aspetto.h"
 
+#include <QSocketNotifier>
 #include <QTimer>
 
 #include <utility>
@@ -12,6 +13,11 @@ namespace {
 
 /// Number of a failure that isn't one of ours.
 constexpr int kErroreInterno = 51;
+
+/// A notifier of a network socket; those of the window system go on.
+bool dellaRete(const QObject* notificatore) {
+    return notificatore->parent() && notificatore->parent()->inherits("QAbstractSocketEngine");
+}
 
 } // namespace
 
@@ -33,9 +39,13 @@ int Applicazione::esegui(std::function<void()> avvio) {
 }
 
 bool Applicazione::notify(QObject* destinatario, QEvent* evento) {
-    // After a failure the program does nothing more; the timers would go on behind the box.
+    // After a failure the program does nothing more; timers and cash desks would go on behind the box.
     if (finita_ && evento->type() == QEvent::Timer && qobject_cast<QTimer*>(destinatario))
         return true;
+    if (finita_ && evento->type() == QEvent::SockAct && dellaRete(destinatario)) {
+        static_cast<QSocketNotifier*>(destinatario)->setEnabled(false); // or it would ask again and again
+        return true;
+    }
     try {
         return QApplication::notify(destinatario, evento);
     } catch (const Guasto& g) {

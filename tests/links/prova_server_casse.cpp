@@ -1,0 +1,169 @@
+#include "links/server_casse.h"
+#include "platform/finti/ascolto_finto.h"
+#include "platform/finti/finti.h"
+
+#include <deque>
+#include <gmock/gmock.h>
+
+namespace lumigrafo::prova {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A queue that gives what the test put in, and lets something happen in the middle.
+struct CodaFinta : CodaCasse {
+    std::deque<std::string> numeri;
+    std::function<void()> durante;
+    std::vector<std::string> chiesti; ///< letters
+    bool occupato = false;
+
+    [[nodiscard]] bool Occupato() const override { return occupato; }
+    std::string ProssimoNumero(const std::string& Cassa) override {
+        chiesti.push_back(Cassa);
+        occupato = true;
+        if (const auto d = std::exchange(durante, nullptr))
+            d();
+        occupato = false;
+        if (numeri.empty())
+            return {};
+        std::string numero = numeri.front();
+        numeri.pop_front();
+        return numero;
+    }
+};
+
+class Server : public testing::Test {
+protected:
+    ReteTcpFinta rete;
+    CodaFinta coda;
+    OrologioFinto orologio;
+    AvvisiFinti avvisi;
+    SistemaFinto sistema;
+    std::vector<std::string> log;
+    std::string logRotto; ///< lines that begin so can't be written
+    ServerCasseTcp server{rete, coda, orologio, avvisi, sistema, [this](const std::string& riga) {
+                              if (!logRotto.empty() && riga.starts_with(logRotto))
+                                  throw Guasto(guasti::kAccesso);
+                              log.push_back(riga);
+                          }};
+
+    void SetUp() override { server.Apri(); }
+    ReteTcpFinta::Presa& posto(std::size_t n) { return *rete.prese.at(n); }
+    std::string risposta(std::size_t n, const std::string& dati) {
+        posto(n).arriva(dati);
+        return posto(n).inviati.empty() ? "(nothing)" : posto(n).inviati.back();
+    }
+};
+
+TEST_F(Server, opensItsPortAndSaysWhereItCannot) {
+    EXPECT_EQ(posto(0).LocalPort(), 2222);
+    EXPECT_EQ(posto(0).State(), StatoPresa::InAscolto);
+    EXPECT_EQ(rete.prese.size(), 11u);
+    EXPECT_THAT(avvisi.mostrati, IsEmpty());
+
+    ReteTcpFinta occupata;
+    occupata.guastoListen = guasti::kPortaInUso;
+    ServerCasseTcp altro(occupata, coda, orologio, avvisi, sistema, [](const std::string&) {});
+    altro.Apri();
+    ASSERT_EQ(avvisi.mostrati.size(), 1u);
+    EXPECT_EQ(avvisi.mostrati[0].testo, "Errore apertura winsock 10048 Controllare porta 2222");
+    EXPECT_EQ(avvisi.mostrati[0].bottoni, Bottoni::Ok);
+}
+
+TEST_F(Server, anExchangeAndItsLog) {
+    coda.numeri = {"17"};
+    rete.chiede(815, "192.168.1.31");
+    EXPECT_EQ(risposta(1, "B"), "NUMERO 17");
+    EXPECT_EQ(risposta(1, "E"), "KO");
+    posto(1).eventi.Close();
+    EXPECT_THAT(coda.chiesti, ElementsAre("B", "E"));
+    EXPECT_THAT(log, ElementsAre("***********   RICHIESTA 815", "Cassa IP: 192.168.1.31",
+                                 "Connected sock. n. 1 192.168.1.31 at 20:30:00", "Received: B",
+                                 "Received: E", "Closed socket n. 1 at 20:30:00"));
+}
+
+TEST_F(Server, whatIsNoLetterComesBackAsItCame) {
+    rete.chiede(1);
+    using namespace std::string_literals;
+    for (const std::string& dati :
+         {"a"s, "AB"s, "F"s, "A\r\n"s, " A"s, "\xC3\xA8"s, "\xFF\0\xFE"s, std::string(100'000, 'A')}) {
+        EXPECT_EQ(risposta(1, dati), "Codice Cassa errato: " + dati);
+        EXPECT_EQ(log.back(), "Received: " + dati);
+    }
+    const auto prima = posto(1).inviati.size();
+    posto(1).arriva("");
+    EXPECT_EQ(log.back(), "Received: ");
+    EXPECT_EQ(posto(1).inviati.size(), prima);
+    EXPECT_THAT(coda.chiesti, IsEmpty());
+}
+
+TEST_F(Server, theLowestFreeSlotIsTakenAndAnEleventhDeskGetsNothing) {
+    for (int n = 1; n <= 10; ++n)
+        rete.chiede(n, "10.0.0." + std::to_string(n));
+    log.clear();
+    rete.chiede(11, "10.0.0.11");
+    EXPECT_THAT(log, ElementsAre("***********   RICHIESTA 11", "Cassa IP: 10.0.0.11"));
+    EXPECT_EQ(sistema.bips, 0);
+    for (const std::size_t n : {7u, 3u})
+        posto(n).eventi.Close();
+    rete.chiede(12, "10.0.0.12");
+    EXPECT_EQ(posto(3).RemoteHostIP(), "10.0.0.12");
+    EXPECT_EQ(posto(7).State(), StatoPresa::Chiusa);
+}
+
+TEST_F(Server, aFailedRequestIsLoggedAndBeeped) {
+    rete.guastoAccept = true;
+    rete.chiede(1);
+    EXPECT_EQ(log.back(), "Error in ConnectionRequest");
+    EXPECT_EQ(sistema.bips, 1);
+    rete.guastoAccept = false;
+    logRotto = "Cassa IP";
+    rete.chiede(2);
+    EXPECT_EQ(sistema.bips, 2);
+    logRotto.clear();
+    rete.chiede(3); // nothing is left of the failures
+    EXPECT_EQ(posto(1).State(), StatoPresa::Connessa);
+}
+
+TEST_F(Server, aRequestInTheMiddleOfAnotherIsToAskAgain) {
+    coda.numeri = {"1", "2"};
+    rete.chiede(1);
+    rete.chiede(2);
+    coda.durante = [this] {
+        EXPECT_EQ(risposta(2, "B"), "RIPROVARE");
+        EXPECT_EQ(risposta(1, "A"), "RIPROVARE"); // the same desk, too hasty
+        EXPECT_EQ(risposta(2, "xy"), "Codice Cassa errato: xy");
+    };
+    EXPECT_EQ(risposta(1, "A"), "NUMERO 1");
+    EXPECT_EQ(risposta(2, "B"), "NUMERO 2");
+}
+
+TEST_F(Server, aDeskThatVanishesIsNoFailureAndOneThatClosesInTheMiddleIs) {
+    coda.numeri = {"1", "2", "3", "4"};
+    rete.chiede(1);
+    posto(1).rotta = true;
+    EXPECT_NO_THROW(posto(1).arriva("A"));
+    EXPECT_EQ(posto(1).State(), StatoPresa::Chiusa);
+    EXPECT_EQ(log.back(), "Closed socket n. 1 at 20:30:00");
+
+    const auto chiude = [this] { posto(1).eventi.Close(); };
+    const auto chiudeEAltraArriva = [this] {
+        posto(1).eventi.Close();
+        rete.chiede(3);
+    };
+    for (const std::function<void()>& durante : {std::function<void()>(chiude), {chiudeEAltraArriva}}) {
+        rete.chiede(2);
+        coda.durante = durante;
+        try {
+            posto(1).arriva("A");
+            ADD_FAILURE() << "no failure";
+        } catch (const Guasto& guasto) {
+            EXPECT_EQ(guasto.numero(), 40006);
+        }
+        EXPECT_THAT(posto(1).inviati, IsEmpty()) << "another desk got the answer";
+    }
+}
+
+} // namespace
+} // namespace lumigrafo::prova
