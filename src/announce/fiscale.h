@@ -12,10 +12,15 @@ public:
     virtual void EmettiFiscale(const std::string& sigla, const std::string& numero) = 0;
 };
 
-/// For a station without a fiscal printer.
-class FiscaleAssente : public Fiscale {
+/// The fiscal component's own windows, as the console's menu and the settings dialog open them. Each returns
+/// when its window is gone.
+class FinestreFiscali {
 public:
-    void EmettiFiscale(const std::string&, const std::string&) override {}
+    virtual ~FinestreFiscali() = default;
+    /// The utilities (`mnuFiscale`, `cmdTestFiscale`).
+    virtual void UtilitaFiscali() = 0;
+    /// The notice about the printers, and then the settings (`cmdFiscale`).
+    virtual void ImpoFiscali() = 0;
 };
 
 } // namespace lumigrafo

@@ -10,10 +10,10 @@
 namespace lumigrafo {
 
 DialoghiQt::DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione,
-                       Uscita& uscita, Orologio& orologio, std::function<Rettangolo()> console,
-                       std::function<RichiamiConsole&()> richiami)
+                       Uscita& uscita, Orologio& orologio, FinestreFiscali& fiscali,
+                       std::function<Rettangolo()> console, std::function<RichiamiConsole&()> richiami)
     : sagoma_(sagoma), console_(std::move(console)), richiami_(std::move(richiami)), processi_(processi),
-      alimentazione_(alimentazione), uscita_(uscita), orologio_(orologio) {}
+      alimentazione_(alimentazione), uscita_(uscita), orologio_(orologio), fiscali_(fiscali) {}
 
 void DialoghiQt::manca(const char* cosa) {
     sagoma_.avvisi.chiedi({std::string(cosa) + " non è disponibile in questa versione.", "Lumigrafo",
@@ -44,7 +44,7 @@ void DialoghiQt::frmImposta() {
     manca("La finestra delle impostazioni");
 }
 void DialoghiQt::UtilitaFiscali() {
-    manca("L'utilità fiscale");
+    fiscali_.UtilitaFiscali();
 }
 
 bool DialoghiQt::ChiediPassword(const std::string&) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "announce/fiscale.h"
 #include "boards/sagoma.h"
 #include "platform/alimentazione.h"
 #include "platform/avvisi.h"
@@ -18,7 +19,7 @@ class DialoghiQt : public Dialoghi {
 public:
     /// `console`: where the console stands on the desktop, twips. `richiami`: what dialogs call back in it.
     DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
-               Orologio& orologio, std::function<Rettangolo()> console,
+               Orologio& orologio, FinestreFiscali& fiscali, std::function<Rettangolo()> console,
                std::function<RichiamiConsole&()> richiami);
 
     void frmSpegni() override;
@@ -41,6 +42,7 @@ private:
     Alimentazione& alimentazione_;
     Uscita& uscita_;
     Orologio& orologio_;
+    FinestreFiscali& fiscali_;
 };
 
 } // namespace lumigrafo

@@ -1,20 +1,26 @@
 #pragma once
 
 #include "announce/annunciatore_vocale.h"
+#include "announce/emissione_fiscale.h"
+#include "announce/qt/frm_fiscale_qt.h"
 #include "app/dialoghi_qt.h"
 #include "boards/crea_videata.h"
 #include "console/avanti_prossimo.h"
 #include "console/dati_stato.h"
 #include "console/pompa_console.h"
 #include "console/qt/frmGestione.h"
+#include "fiscale/componente.h"
+#include "fiscale/qt/finestre_componente_qt.h"
 #include "links/collegamento_android.h"
 #include "links/server_casse.h"
 #include "platform/linux/alimentazione.h"
 #include "platform/linux/cliente_tcp.h"
 #include "platform/linux/desktop.h"
+#include "platform/linux/esecutore.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
 #include "platform/linux/sistema.h"
+#include "platform/linux/trasporti.h"
 #include "platform/qt/ascolto_tcp_qt.h"
 #include "platform/qt/notifiche_qt.h"
 #include "platform/qt/pompa_qt.h"
@@ -56,7 +62,12 @@ private:
     RegistroLog log_{ambiente_.cartella, orologio_};
     VoceQt voce_;
     AnnunciatoreVocale annunciatore_;
-    FiscaleAssente fiscale_;
+    TrasportiLinux trasporti_;
+    EsecutoreLinux esecutore_;
+    FinestreComponenteQt finestreComponente_;
+    FabbricaComponente componente_;
+    FrmFiscaleQt frmFiscale_;
+    EmissioneFiscale fiscale_;
     ClienteTcpLinux rete_;
     CollegamentoAndroid android_{FileIni(ambiente_.file(kFileImpostazioni)), dati_, orologio_, rete_,
                                  notifiche_};

@@ -1,15 +1,17 @@
 #pragma once
 
 #include "announce/annunciatore_vocale.h"
+#include "announce/emissione_fiscale.h"
 #include "boards/scheda.h"
+#include "console/servito.h"
 #include "console/stato.h"
 #include "links/collegamento_android.h"
 #include "platform/guasto.h"
 
 namespace lumigrafo {
 
-/// What boards, voice and Android link see of the console's running state.
-class DatiDaStato final : public DatiConsole, public DatiVoce, public DatiAndroid {
+/// What boards, voice, receipts and Android link see of the console's running state.
+class DatiDaStato final : public DatiConsole, public DatiVoce, public DatiFiscali, public DatiAndroid {
 public:
     explicit DatiDaStato(StatoConsole& stato) : s_(stato) {}
 
@@ -30,8 +32,20 @@ public:
             throw Guasto(guasti::kOggettoMancante);
         return s_.frmVideata->controlli()(etichetta, indice).Caption();
     }
+    [[nodiscard]] Database& Db() override { return aperto(s_.Db.get()); }
+    [[nodiscard]] Workspace& Ws() override { return aperto(s_.Ws); }
+    [[nodiscard]] std::string PathDB() const override { return s_.PathDB; }
+    [[nodiscard]] std::int32_t DataCompetenzaSql() const override { return SqlDate(s_.DataCompetenza); }
 
 private:
+    /// Throws Guasto 91 where the archive hasn't been opened yet.
+    template <typename T>
+    [[nodiscard]] static T& aperto(T* oggetto) {
+        if (!oggetto)
+            throw Guasto(guasti::kOggettoMancante);
+        return *oggetto;
+    }
+
     StatoConsole& s_;
 };
 

@@ -1,0 +1,145 @@
+#include "platform/linux/trasporti.h"
+
+#include "platform/linux/scadenza.h"
+#include "platform/linux/senza_sigpipe.h"
+
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <linux/sockios.h>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace lumigrafo {
+
+namespace {
+
+/// Between two looks at what is still on its way.
+constexpr int kPassoMs = 10;
+
+bool daRiprovare() {
+    return errno == EAGAIN || errno == EWOULDBLOCK;
+}
+
+class TrasportoFile final : public Trasporto {
+public:
+    /// `inViaggio`: the request that counts the bytes still on their way; 0 where the device keeps none.
+    TrasportoFile(Descrittore f, bool risponde, unsigned long inViaggio)
+        : f_(std::move(f)), risponde_(risponde), inViaggio_(inViaggio) {}
+
+    std::size_t scrivi(std::string_view byte, Limite limite) override {
+        const SenzaSigpipe silenzio;
+        const Scadenza fine(limite);
+        std::size_t presi = 0;
+        while (presi < byte.size()) {
+            const auto n =
+                riprovando([&] { return ::write(f_.fd(), byte.data() + presi, byte.size() - presi); });
+            if (n > 0)
+                presi += static_cast<std::size_t>(n);
+            else if (n == 0 || !daRiprovare() || !pronto(f_.fd(), POLLOUT, fine))
+                break;
+        }
+        return presi;
+    }
+
+    std::string leggi(std::size_t quanti, Limite limite) override {
+        const Scadenza fine(limite);
+        std::string letti;
+        while (risponde_ && letti.size() < quanti && pronto(f_.fd(), POLLIN, fine)) {
+            std::array<char, 256> pezzo{};
+            const auto spazio = std::min(pezzo.size(), quanti - letti.size());
+            const auto n = riprovando([&] { return ::read(f_.fd(), pezzo.data(), spazio); });
+            if (n > 0)
+                letti.append(pezzo.data(), static_cast<std::size_t>(n));
+            else if (n == 0 || !daRiprovare())
+                break;
+        }
+        return letti;
+    }
+
+    [[nodiscard]] bool risponde() const override { return risponde_; }
+
+    bool svuota(Limite limite) override {
+        const Scadenza fine(limite);
+        int restano = 0;
+        while (inViaggio_ != 0 && ::ioctl(f_.fd(), inViaggio_, &restano) == 0 && restano > 0) {
+            const int resto = fine.resto();
+            if (resto == 0)
+                return false;
+            ::poll(nullptr, 0, std::min(kPassoMs, resto));
+        }
+        return !caduto();
+    }
+
+private:
+    /// A connection that the other side broke off counts nothing on its way either.
+    [[nodiscard]] bool caduto() const {
+        int errore = 0;
+        socklen_t lunghezza = sizeof errore;
+        return ::getsockopt(f_.fd(), SOL_SOCKET, SO_ERROR, &errore, &lunghezza) == 0 && errore != 0;
+    }
+
+    Descrittore f_;
+    bool risponde_;
+    unsigned long inViaggio_;
+};
+
+Descrittore connetti(const addrinfo& meta, const Scadenza& fine) {
+    Descrittore f(::socket(meta.ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, IPPROTO_TCP));
+    if (!f.aperto())
+        return {};
+    if (::connect(f.fd(), meta.ai_addr, meta.ai_addrlen) != 0 &&
+        ((errno != EINPROGRESS && errno != EINTR) || !pronto(f.fd(), POLLOUT, fine)))
+        return {};
+    int errore = 0;
+    socklen_t lunghezza = sizeof errore;
+    if (::getsockopt(f.fd(), SOL_SOCKET, SO_ERROR, &errore, &lunghezza) != 0 || errore != 0)
+        return {};
+    const int acceso = 1; // a question of three bytes isn't held back for more
+    static_cast<void>(::setsockopt(f.fd(), IPPROTO_TCP, TCP_NODELAY, &acceso, sizeof acceso));
+    return f;
+}
+
+/// The terminal driver must neither echo the printer's answers back to it nor change a byte on the way.
+void grezzo(int fd) {
+    termios modi{};
+    if (::tcgetattr(fd, &modi) != 0)
+        return;
+    ::cfmakeraw(&modi);
+    static_cast<void>(::tcsetattr(fd, TCSANOW, &modi));
+}
+
+} // namespace
+
+std::unique_ptr<Trasporto> TrasportiLinux::tcp(const std::string& host, std::uint16_t porta,
+                                               Trasporto::Limite limite) {
+    addrinfo chiesto{}, *trovato = nullptr;
+    chiesto.ai_socktype = SOCK_STREAM;
+    chiesto.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
+    if (::getaddrinfo(host.c_str(), std::to_string(porta).c_str(), &chiesto, &trovato) != 0)
+        return nullptr;
+    Descrittore f = connetti(*trovato, Scadenza(limite));
+    ::freeaddrinfo(trovato);
+    return f.aperto() ? std::make_unique<TrasportoFile>(std::move(f), true, SIOCOUTQ) : nullptr;
+}
+
+std::unique_ptr<Trasporto> TrasportiLinux::dispositivo(const std::string& file) {
+    constexpr int kModi = O_NONBLOCK | O_NOCTTY;
+    Descrittore f = apri(file, O_RDWR | kModi);
+    const bool risponde = f.aperto();
+    if (!risponde)
+        f = apri(file, O_WRONLY | kModi);
+    if (!f.aperto())
+        return nullptr;
+    const bool terminale = ::isatty(f.fd()) != 0;
+    if (terminale)
+        grezzo(f.fd());
+    return std::make_unique<TrasportoFile>(std::move(f), risponde, terminale ? TIOCOUTQ : 0);
+}
+
+} // namespace lumigrafo
