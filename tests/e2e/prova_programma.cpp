@@ -1,8 +1,10 @@
 #include "tests/e2e/stazione.h"
 
 #include <csignal>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace lumigrafo::prova {
 namespace {
@@ -58,6 +60,26 @@ TEST_F(Programma, unNumeroToccatoEUnoScansionatoVannoSulTabellone) {
     ASSERT_TRUE(s.accendi());
     EXPECT_EQ(s.sulTabellone(0), "A 1");
     EXPECT_EQ(s.sulTabellone(1), "A 2");
+}
+
+TEST_F(Programma, ogniChiamataHaIlSuoScontrino) {
+    Stazione s(*schermo);
+    s.archivio.ordine("A", 1, {{1, 2}});
+    s.archivio.ordine("A", 2, {{1, 1}});
+    s.archivio.ordine("A", 3, {{2, 1}});
+    s.imposta("ScontrinoFiscale", 1);
+    ASSERT_TRUE(s.accendi());
+    const auto scontrini = [&] {
+        std::error_code nessuna;
+        const std::filesystem::directory_iterator file(s.cartella.percorso() / "Scontrini", nessuna);
+        return std::distance(begin(file), end(file));
+    };
+    s.clic(0, 0, 0);
+    EXPECT_TRUE(attendiChe(10s, [&] { return scontrini() == 1; }));
+    schermo->digita(codiceScontrino(1, "A  3") + "\r");
+    EXPECT_TRUE(attendiChe(10s, [&] { return scontrini() == 2; }));
+    EXPECT_TRUE(attendiChe(10s, [&] { return s.servito("A  3") == "-1"; }));
+    EXPECT_EQ(s.archivio.coda(), "A2");
 }
 
 TEST_F(Programma, unSecondoAvvioSiScusaEFinisce) {
