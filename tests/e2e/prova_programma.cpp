@@ -80,6 +80,22 @@ TEST_F(Programma, ogniChiamataHaIlSuoScontrino) {
     EXPECT_TRUE(attendiChe(10s, [&] { return scontrini() == 2; }));
     EXPECT_TRUE(attendiChe(10s, [&] { return s.servito("A  3") == "-1"; }));
     EXPECT_EQ(s.archivio.coda(), "A2");
+
+    // A failure is told and asked about on the operator's monitor, never on the public's.
+    const FileIni fiscale(s.cartella.percorso() / "Fiscale.ini");
+    fiscale.ScriviIni("Fiscale", "Driver", "programma");
+    fiscale.ScriviIni("Fiscale", "Programma", "/nessun/programma");
+    s.clic(0, 0, 1);
+    for (const auto& [titolo, tasto] :
+         {std::pair{"Stampa dello scontrino", "\r"}, {"ERRORE STAMPA FISCALE", "\x1b"}}) {
+        ASSERT_TRUE(vede(s.programma(), titolo)) << titolo;
+        EXPECT_LT(schermo->finestre(s.programma().pid(), titolo).front().posto.x, Schermo::kLarghezza);
+        EXPECT_TRUE(attendiChe(10s, [&, t = titolo, k = tasto] { // until it has the keyboard
+            schermo->digita(k);
+            return schermo->finestre(s.programma().pid(), t).empty();
+        }));
+    }
+    EXPECT_TRUE(attendiChe(10s, [&] { return s.servito("A  2") == "-1"; }));
 }
 
 TEST_F(Programma, unSecondoAvvioSiScusaEFinisce) {

@@ -76,7 +76,7 @@ void Schermo::tocca(int x, int y) const {
 void Schermo::digita(const std::string& testo) const {
     std::vector<std::string> comando{"xdotool", "key", "--delay", "4"};
     for (const char tasto : testo)
-        comando.push_back(tasto == '\r' ? "Return" : std::string(1, tasto));
+        comando.push_back(tasto == '\r' ? "Return" : tasto == '\x1b' ? "Escape" : std::string(1, tasto));
     (void)comanda(comando);
 }
 

@@ -37,7 +37,7 @@ public:
     [[nodiscard]] std::vector<FinestraX> finestre(pid_t pid, const std::string& titolo) const;
     /// Touches a point of the display.
     void tocca(int x, int y) const;
-    /// Types into the window with the focus, as fast as a scanner; "\r" is Enter.
+    /// Types into the window with the focus, as fast as a scanner; "\r" is Enter, "\x1b" Escape.
     void digita(const std::string& testo) const;
     /// How many colours the part of the display shows; a window that paints nothing shows one.
     [[nodiscard]] int colori(const RettangoloPixel& parte) const;

@@ -1,8 +1,11 @@
 #include "platform/qt/avvisi_qt.h"
 
 #include <QApplication>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace lumigrafo {
 
@@ -31,10 +34,18 @@ QPushButton* bottone(QMessageBox& box, const QString& testo, QMessageBox::Button
     return b;
 }
 
+/// What the box stands over. Between two boxes no window may be active yet: without an owner the second one
+/// could come up on the public's monitor.
 QWidget* finestraAttiva() {
     if (QWidget* modale = QApplication::activeModalWidget())
         return modale;
-    return QApplication::activeWindow();
+    if (QWidget* attiva = QApplication::activeWindow())
+        return attiva;
+    const auto finestre = QApplication::topLevelWidgets();
+    const auto principale = std::find_if(finestre.begin(), finestre.end(), [](const QWidget* w) {
+        return qobject_cast<const QMainWindow*>(w) && w->isVisible();
+    });
+    return principale == finestre.end() ? nullptr : *principale;
 }
 
 } // namespace
