@@ -78,7 +78,7 @@ void EmissioneFiscale::UtilitaFiscali() {
     componente->MostraUtilita();
 }
 
-void EmissioneFiscale::ImpoFiscali() {
+void EmissioneFiscale::ImpostazioniFiscali() {
     p_.avvisi.chiedi({"Attenzione, usare solo stampanti Custom", "", Icona::Informazione, Bottoni::Ok});
     const auto configura = p_.fabbrica.creaConfigura();
     imposta(*configura);

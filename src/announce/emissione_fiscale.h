@@ -47,7 +47,7 @@ public:
     /// the program as clsRecordset does; what the component throws goes on.
     void EmettiFiscale(const std::string& Sigla, const std::string& Numero) override;
     void UtilitaFiscali() override;
-    void ImpoFiscali() override;
+    void ImpostazioniFiscali() override;
 
 private:
     /// The newest receipt's identifier, or -1: the operator has been told why.

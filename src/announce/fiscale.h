@@ -20,7 +20,7 @@ public:
     /// The utilities (`mnuFiscale`, `cmdTestFiscale`).
     virtual void UtilitaFiscali() = 0;
     /// The notice about the printers, and then the settings (`cmdFiscale`).
-    virtual void ImpoFiscali() = 0;
+    virtual void ImpostazioniFiscali() = 0;
 };
 
 } // namespace lumigrafo

@@ -160,7 +160,7 @@ TEST_F(Emissione, TheComponentsOwnWindows) {
     EXPECT_THAT(diario, ElementsAre("crea", "CartellaProgramma", "Workspace", "Database", "CartellaDati",
                                     "MostraUtilita", "rilascia"));
     diario.clear();
-    emissione.ImpoFiscali();
+    emissione.ImpostazioniFiscali();
     EXPECT_THAT(diario, ElementsAre("avviso Attenzione, usare solo stampanti Custom", "crea",
                                     "CartellaProgramma", "Workspace", "Database", "CartellaDati",
                                     "Opzione True", "Mostra modale", "rilascia"));

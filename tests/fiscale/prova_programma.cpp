@@ -67,7 +67,8 @@ TEST(Programma, WhatItIsTold) {
     b.impostazioni.driver = TipoDriver::Programma;
     const std::string qui = b.cartella.percorso().string();
     b.impostazioni.indirizzo() =
-        b.programma("stampa", "cat > " + qui + "/chiesto; echo '{\"esito\": \"fatto\"}'");
+        b.programma("stampa", "cat > " + qui + "/chiesto; cp " + qui + "/Fiscale_scontrini.txt " + qui +
+                                  "/allora; echo '{\"esito\": \"fatto\"}'");
     ASSERT_TRUE(b.emetti(7));
     const std::string chiesto = leggiFile(b.cartella.percorso() / "chiesto").value_or("");
     EXPECT_THAT(
@@ -77,6 +78,9 @@ TEST(Programma, WhatItIsTold) {
     EXPECT_THAT(chiesto,
                 HasSubstr(R"({"descrizione":"Lasagne al ragù","quantita":2,"prezzo":8,"totale":16})"));
     EXPECT_THAT(chiesto, HasSubstr(R"("prezzo":null,"totale":3.5)"));
+    // A power cut while it prints leaves a trace.
+    EXPECT_THAT(leggiFile(b.cartella.percorso() / "allora").value_or(""), HasSubstr("INCERTO"));
+    EXPECT_EQ(b.registro().at(0).fine, Fine::Fatto);
     b.impostazioni.indirizzo() = qui + "/manca";
     EXPECT_FALSE(b.emetti(7));
     EXPECT_EQ(b.registro().at(0).fine, Fine::NonStampato);

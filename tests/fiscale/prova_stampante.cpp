@@ -47,7 +47,7 @@ TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
         EXPECT_EQ(b.avviso().find("potrebbe essere già stato stampato") != std::string::npos,
                   caso.fine == Fine::Incerto);
         EXPECT_EQ(stampante.ricevuto().find("ORDINE A 12") != std::string::npos, caso.mandato);
-        EXPECT_LE(stampante.tagli(), 1);     // never twice in one attempt
+        EXPECT_LE(stampante.tagli(), 1);       // never twice in one attempt
         if (caso.umore == Umore::CartaAMeta) { // it mustn't print the rest with new paper
             EXPECT_THAT(stampante.ricevuto(), testing::EndsWith(escpos::kScordaTutto));
         }
