@@ -25,7 +25,7 @@ struct Spiegazione {
 constexpr std::array<Spiegazione, kTipiDriver> kSpiegazioni{{
     {"Cartella",
      "Ogni scontrino diventa un file di testo. Senza una cartella: Scontrini, nella cartella del programma."},
-    {"Indirizzo", "Indirizzo numerico della stampante, per esempio 192.168.1.50 oppure 192.168.1.50:9100."},
+    {"Indirizzo", "Indirizzo o nome della stampante, per esempio 192.168.1.50 oppure 192.168.1.50:9100."},
     {"Dispositivo", "File del dispositivo, per esempio /dev/usb/lp0."},
     {"Coda", "Nome della coda di stampa, che deve accettare dati grezzi."},
     {"Programma", "Percorso del programma che riceve lo scontrino e lo stampa."},

@@ -32,7 +32,7 @@ public:
 class Trasporti {
 public:
     virtual ~Trasporti() = default;
-    /// `host`: a numeric address, IPv4 or IPv6. Names are refused: to look one up has no bounded time.
+    /// `host`: an address or a name; the limit covers the look-up of the name too.
     [[nodiscard]] virtual std::unique_ptr<Trasporto> tcp(const std::string& host, std::uint16_t porta,
                                                          Trasporto::Limite limite) = 0;
     /// A device file that exists; UTF-8.

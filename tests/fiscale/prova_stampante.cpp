@@ -61,7 +61,7 @@ TEST(Stampante, NobodyThereAndAnAddressThatIsNone) {
     BancoFiscale b;
     b.scontrinoSette();
     b.impostazioni.driver = TipoDriver::Rete;
-    for (const char* indirizzo : {"127.0.0.1:1", "stampante.locale", "127.0.0.1:x", ""}) {
+    for (const char* indirizzo : {"127.0.0.1:1", "stampante!", "127.0.0.1:x", ""}) {
         SCOPED_TRACE(indirizzo);
         b.impostazioni.indirizzo() = indirizzo;
         EXPECT_FALSE(b.emetti(7));

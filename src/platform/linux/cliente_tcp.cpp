@@ -1,69 +1,26 @@
 #include "platform/linux/cliente_tcp.h"
 
-#include "platform/linux/descrittore.h"
-#include "platform/linux/risolutore.h"
+#include "platform/linux/connessione.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
-#include <poll.h>
 #include <sys/socket.h>
-#include <utility>
 
 namespace lumigrafo {
 
 namespace {
-
-using Momento = std::chrono::steady_clock;
-
-int millisecondi(Momento::time_point fine) {
-    return static_cast<int>(std::max<std::int64_t>(
-        0, std::chrono::ceil<std::chrono::milliseconds>(fine - Momento::now()).count()));
-}
-
-/// Waits until the connection can be read or written, or has failed. False where the time is over.
-bool pronta(int fd, short eventi, Momento::time_point fine) {
-    pollfd attesa{fd, eventi, 0};
-    int esito = ::poll(&attesa, 1, millisecondi(fine));
-    while (esito < 0 && errno == EINTR)
-        esito = ::poll(&attesa, 1, millisecondi(fine));
-    return esito > 0;
-}
 
 void opzione(int fd, int livello, int nome, int valore) {
     // A system that lacks it goes on with its own default.
     static_cast<void>(::setsockopt(fd, livello, nome, &valore, sizeof valore));
 }
 
-Descrittore connettiA(const IndirizzoRete& indirizzo, Momento::time_point fine) {
-    Descrittore f(
-        ::socket(indirizzo.dati.ss_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, IPPROTO_TCP));
-    if (!f.aperto())
-        return {};
-    const auto* meta = reinterpret_cast<const sockaddr*>(&indirizzo.dati);
-    if (::connect(f.fd(), meta, indirizzo.lunghezza) == 0)
-        return f;
-    if ((errno != EINPROGRESS && errno != EINTR) || !pronta(f.fd(), POLLOUT, fine))
-        return {};
-    int errore = 0;
-    socklen_t lunghezza = sizeof errore;
-    const bool riuscita = ::getsockopt(f.fd(), SOL_SOCKET, SO_ERROR, &errore, &lunghezza) == 0 && errore == 0;
-    return riuscita ? std::move(f) : Descrittore();
-}
-
 class PresaLinux final : public PresaTcp {
 public:
     bool connetti(const std::string& host, std::uint16_t porta, std::chrono::milliseconds limite) override {
-        const auto fine = Momento::now() + limite;
-        const auto indirizzi = risolvi(host, porta, fine);
-        for (std::size_t i = 0; i < indirizzi.size() && !f_.aperto(); ++i) {
-            // One that doesn't answer leaves the others their share of the time.
-            const auto ora = Momento::now();
-            const auto parte = (fine - ora) / static_cast<int>(indirizzi.size() - i);
-            f_ = connettiA(indirizzi[i], ora + parte);
-        }
+        f_ = connettiTcp(host, porta, fra(limite));
         return f_.aperto();
     }
 
@@ -77,8 +34,7 @@ public:
                 [&] { return ::send(f_.fd(), testo.data(), testo.size(), MSG_NOSIGNAL | MSG_DONTWAIT); });
             if (presi >= 0)
                 testo.remove_prefix(static_cast<std::size_t>(presi));
-            else if ((errno != EAGAIN && errno != EWOULDBLOCK) ||
-                     !pronta(f_.fd(), POLLOUT, Momento::now() + inattivita_))
+            else if ((errno != EAGAIN && errno != EWOULDBLOCK) || !pronto(f_.fd(), POLLOUT, fra(inattivita_)))
                 return false;
         }
         return true;
@@ -86,7 +42,7 @@ public:
 
     std::string ricevi() override {
         std::array<char, kMassimoRicevuto> pezzo;
-        if (!pronta(f_.fd(), POLLIN, Momento::now() + inattivita_))
+        if (!pronto(f_.fd(), POLLIN, fra(inattivita_)))
             return {};
         const ssize_t venuti =
             riprovando([&] { return ::recv(f_.fd(), pezzo.data(), pezzo.size(), MSG_DONTWAIT); });

@@ -1,6 +1,6 @@
 #include "platform/linux/esecutore.h"
 
-#include "platform/linux/scadenza.h"
+#include "platform/linux/attesa.h"
 #include "platform/linux/senza_sigpipe.h"
 
 #include <array>
@@ -112,7 +112,7 @@ std::optional<FineProgramma> EsecutoreLinux::esegui(const std::vector<std::strin
                                                     std::string_view ingresso,
                                                     std::chrono::milliseconds limite) {
     const SenzaSigpipe silenzio;
-    const Scadenza scadenza(limite);
+    const Momento scadenza = fra(limite);
     Figlio figlio(parole);
     if (figlio.pid == 0)
         return std::nullopt;
@@ -122,9 +122,10 @@ std::optional<FineProgramma> EsecutoreLinux::esegui(const std::vector<std::strin
         std::array<pollfd, 3> attese{{{figlio.versoDiLui.fd(), POLLOUT, 0},
                                       {figlio.daLui.fd(), POLLIN, 0},
                                       {figlio.fine.fd(), POLLIN, 0}}};
-        const int pronti = riprovando([&] { return ::poll(attese.data(), attese.size(), scadenza.resto()); });
+        const int pronti =
+            riprovando([&] { return ::poll(attese.data(), attese.size(), restano(scadenza)); });
         finito = attese[2].revents != 0; // seen before the last reading: all that it wrote is there by then
-        esito.scaduto = !finito && (pronti <= 0 || scadenza.resto() == 0);
+        esito.scaduto = !finito && (pronti <= 0 || restano(scadenza) == 0);
         if (attese[0].revents != 0)
             alimenta(figlio, ingresso);
         if (figlio.daLui.aperto())

@@ -1,13 +1,12 @@
 #include "platform/linux/trasporti.h"
 
-#include "platform/linux/scadenza.h"
+#include "platform/linux/connessione.h"
 #include "platform/linux/senza_sigpipe.h"
 
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <linux/sockios.h>
-#include <netdb.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <sys/ioctl.h>
@@ -34,7 +33,7 @@ public:
 
     std::size_t scrivi(std::string_view byte, Limite limite) override {
         const SenzaSigpipe silenzio;
-        const Scadenza fine(limite);
+        const Momento fine = fra(limite);
         std::size_t presi = 0;
         while (presi < byte.size()) {
             const auto n =
@@ -48,7 +47,7 @@ public:
     }
 
     std::string leggi(std::size_t quanti, Limite limite) override {
-        const Scadenza fine(limite);
+        const Momento fine = fra(limite);
         std::string letti;
         while (risponde_ && letti.size() < quanti && pronto(f_.fd(), POLLIN, fine)) {
             std::array<char, 256> pezzo{};
@@ -65,10 +64,10 @@ public:
     [[nodiscard]] bool risponde() const override { return risponde_; }
 
     bool svuota(Limite limite) override {
-        const Scadenza fine(limite);
-        int restano = 0;
-        while (inViaggio_ != 0 && ::ioctl(f_.fd(), inViaggio_, &restano) == 0 && restano > 0) {
-            const int resto = fine.resto();
+        const Momento fine = fra(limite);
+        int inCammino = 0;
+        while (inViaggio_ != 0 && ::ioctl(f_.fd(), inViaggio_, &inCammino) == 0 && inCammino > 0) {
+            const int resto = restano(fine);
             if (resto == 0)
                 return false;
             ::poll(nullptr, 0, std::min(kPassoMs, resto));
@@ -89,22 +88,6 @@ private:
     unsigned long inViaggio_;
 };
 
-Descrittore connetti(const addrinfo& meta, const Scadenza& fine) {
-    Descrittore f(::socket(meta.ai_family, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, IPPROTO_TCP));
-    if (!f.aperto())
-        return {};
-    if (::connect(f.fd(), meta.ai_addr, meta.ai_addrlen) != 0 &&
-        ((errno != EINPROGRESS && errno != EINTR) || !pronto(f.fd(), POLLOUT, fine)))
-        return {};
-    int errore = 0;
-    socklen_t lunghezza = sizeof errore;
-    if (::getsockopt(f.fd(), SOL_SOCKET, SO_ERROR, &errore, &lunghezza) != 0 || errore != 0)
-        return {};
-    const int acceso = 1; // a question of three bytes isn't held back for more
-    static_cast<void>(::setsockopt(f.fd(), IPPROTO_TCP, TCP_NODELAY, &acceso, sizeof acceso));
-    return f;
-}
-
 /// The terminal driver must neither echo the printer's answers back to it nor change a byte on the way.
 void grezzo(int fd) {
     termios modi{};
@@ -118,13 +101,9 @@ void grezzo(int fd) {
 
 std::unique_ptr<Trasporto> TrasportiLinux::tcp(const std::string& host, std::uint16_t porta,
                                                Trasporto::Limite limite) {
-    addrinfo chiesto{}, *trovato = nullptr;
-    chiesto.ai_socktype = SOCK_STREAM;
-    chiesto.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
-    if (::getaddrinfo(host.c_str(), std::to_string(porta).c_str(), &chiesto, &trovato) != 0)
-        return nullptr;
-    Descrittore f = connetti(*trovato, Scadenza(limite));
-    ::freeaddrinfo(trovato);
+    Descrittore f = connettiTcp(host, porta, fra(limite));
+    const int acceso = 1; // a question of three bytes isn't held back for more
+    static_cast<void>(::setsockopt(f.fd(), IPPROTO_TCP, TCP_NODELAY, &acceso, sizeof acceso));
     return f.aperto() ? std::make_unique<TrasportoFile>(std::move(f), true, SIOCOUTQ) : nullptr;
 }
 
