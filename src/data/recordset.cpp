@@ -84,11 +84,13 @@ void Recordset::definisciCampi(sqlite3_stmt* stmt) {
 void Recordset::carica() {
     Istruzione istruzione = sessione_->prepara(sql_, Operazione::Lettura);
     const Lettura lettura(sessione_->motore());
+    // The first step may find that another program changed the table; only then are the columns known.
+    bool riga = istruzione.passo();
     if (campi_.Count() == 0)
         definisciCampi(istruzione.stmt());
     Righe nuove = sessione_->prestaRighe();
     nuove.azzera(campi_.Count(), selezione_.has_value());
-    while (istruzione.passo())
+    for (; riga; riga = istruzione.passo())
         nuove.accoda(istruzione.stmt());
     std::swap(righe_, nuove);
     sessione_->rendiRighe(std::move(nuove));

@@ -150,6 +150,14 @@ TEST_F(Dao, RequeryVedeLeModificheDiTutti) {
     EXPECT_EQ(rs->RecordCount(), 4);
 }
 
+TEST_F(Dao, UnAltroProgrammaCambiaLeColonne) {
+    archivio.esegui("ALTER TABLE Lumigrafo DROP COLUMN Categoria1");
+    archivio.esegui("UPDATE Lumigrafo SET Evidenzia = -1");
+    rs = db->OpenRecordset("Select * from Lumigrafo Order by Numero");
+    EXPECT_EQ(rs->Fields()["Numero"].Value().aTesto(), "1");
+    EXPECT_EQ(rs->Fields()["Evidenzia"].Value().aTesto(), "-1");
+}
+
 TEST_F(Dao, ModificaDiUnaRiga) {
     archivio.esegui("UPDATE Lumigrafo SET Pezzi2 = 5 WHERE Sigla = 'A' AND Numero = 1"); // after it was read
     EXPECT_EQ(guastoDi([&] { rs->Fields()["Pezzi1"].Value(1); }), 3020);
