@@ -2,9 +2,27 @@
 
 #include "platform/guasto.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lumigrafo {
+
+namespace {
+
+/// Nothing is chosen in a list; a box is unticked, a slider stands at 0 or as near as it can.
+int valoreIniziale(const Descrizione& d) {
+    switch (d.tipo) {
+    case Tipo::Combo:
+    case Tipo::Lista:
+        return -1;
+    case Tipo::Cursore:
+        return std::clamp(0, d.corsa.minimo, d.corsa.massimo);
+    default:
+        return 0;
+    }
+}
+
+} // namespace
 
 std::string nomeCompleto(std::string_view nome, int indice) {
     std::string n(nome);
@@ -18,7 +36,7 @@ Controllo::Controllo(Controlli& modulo, const Descrizione& disegno)
       caption_(disegno.caption), rett_(disegno.rett), visibile_(disegno.visibile),
       fontName_(disegno.carattere.nome), fontSize_(disegno.carattere.dimensione), testo_(disegno.testo),
       sfondo_(disegno.sfondo), sfumatura1_(disegno.sfondo.value_or(kNero)), sfumatura2_(sfumatura1_),
-      figura_(disegno.figura) {}
+      figura_(disegno.figura), valore_(valoreIniziale(disegno)) {}
 
 void Controllo::annuncia(Aspetto aspetto) const {
     if (modulo_.osservatore_)
@@ -84,6 +102,26 @@ void Controllo::Adatta(Adattamento modo) {
 }
 void Controllo::MargineFigura(Twip v) {
     cambia(margineFigura_, v, Aspetto::Figura);
+}
+void Controllo::Clear() {
+    voci_.clear();
+    annuncia(Aspetto::Voci);
+    cambia(valore_, -1, Aspetto::Valore);
+}
+void Controllo::AddItem(std::string voce) {
+    voci_.push_back(std::move(voce));
+    annuncia(Aspetto::Voci);
+}
+void Controllo::ListIndex(int posizione) {
+    if (posizione < -1 || posizione >= static_cast<int>(voci_.size()))
+        throw Guasto(guasti::kProprieta);
+    cambia(valore_, posizione, Aspetto::Valore);
+}
+void Controllo::Value(int valore) {
+    const Corsa& corsa = disegno_.corsa;
+    const int preso = disegno_.tipo == Tipo::Cursore ? std::clamp(valore, corsa.minimo, corsa.massimo)
+                                                     : static_cast<int>(valore != 0);
+    cambia(valore_, preso, Aspetto::Valore);
 }
 void Controllo::ZOrder() {
     annuncia(Aspetto::Ordine);

@@ -26,6 +26,8 @@ enum class Aspetto {
     Figura,
     Ordine, ///< brought to the front
     Fuoco,  ///< asked for the keyboard focus
+    Voci,   ///< the items of a list
+    Valore, ///< the position in a list, a check box's tick, a slider's place
 };
 
 /// How a picture fills its control.
@@ -97,6 +99,18 @@ public:
     /// however large the window is.
     [[nodiscard]] Twip MargineFigura() const { return margineFigura_; }
     void MargineFigura(Twip v);
+    /// The items of a list or drop-down list, from 0. `Clear` leaves no position.
+    void Clear();
+    void AddItem(std::string voce);
+    [[nodiscard]] const std::vector<std::string>& Voci() const { return voci_; }
+    /// The chosen item; -1 for none.
+    [[nodiscard]] int ListIndex() const { return valore_; }
+    /// Throws Guasto 380 where the list has no such item, and chooses nothing.
+    void ListIndex(int posizione);
+    /// A check box's 0 or 1, a slider's place.
+    [[nodiscard]] int Value() const { return valore_; }
+    /// A check box takes anything but 0 as ticked; a slider takes the end of its range that is nearer.
+    void Value(int valore);
     /// Brings the control in front of its siblings.
     void ZOrder();
     /// Gives it the keyboard focus, if it can take it now (visible and enabled, its window shown).
@@ -122,6 +136,8 @@ private:
     std::string figura_;
     Adattamento adatta_ = Adattamento::Intera;
     Twip margineFigura_;
+    std::vector<std::string> voci_;
+    int valore_; ///< position or value, by the kind of control
 };
 
 /// All controls of one window, from its layout. Not copied: views and logic hold references.

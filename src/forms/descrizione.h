@@ -24,6 +24,11 @@ enum class Tipo : std::uint8_t {
     Numerica,  ///< its form with digits alone
     Griglia,   ///< grid of text cells
     Linea,     ///< rule
+    Combo,     ///< drop-down list of which one item is chosen
+    Lista,     ///< list of which one item is chosen
+    Spunta,    ///< check box
+    Cursore,   ///< slider
+    Gruppo,    ///< box with a title that holds others
 };
 
 enum class Allineamento : std::uint8_t { Sinistra, Centro, Destra };
@@ -34,6 +39,12 @@ struct Carattere {
     double dimensione = 9.75;
     bool grassetto = false;
     bool corsivo = false;
+};
+
+/// What a slider runs over, and its steps: by an arrow key, and by a touch beside its knob.
+struct Corsa {
+    int minimo = 0, massimo = 100;
+    int piccolo = 1, grande = 5;
 };
 
 inline constexpr int kSenzaIndice = -1;
@@ -56,6 +67,9 @@ struct Descrizione {
     bool cliccabile = false;            ///< a label, box or picture that takes clicks
     bool inAlto = false;                ///< a label's line stands at its top, not at the middle of its height
     Twip margine{};                     ///< left free at each side of a label's text
+    int lunghezzaMassima = 0;           ///< characters that can be typed into a text box; 0: no limit
+    Corsa corsa{};                      ///< of a slider
+    char scelta = 0;                    ///< small letter of the caption that presses a button or a check box with Alt; 0: none
 };
 
 /// One window.

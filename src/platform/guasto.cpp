@@ -28,6 +28,8 @@ const char* testoDi(int numero) {
         return "Variabile oggetto non impostata";
     case guasti::kElementoMancante:
         return "Elemento della matrice di controlli inesistente";
+    case guasti::kProprieta:
+        return "Valore della proprietà non valido";
     case guasti::kImmagine:
         return "Immagine non valida";
     default:

@@ -18,6 +18,7 @@ inline constexpr int kTipo = 13;              ///< a text that is no number wher
 inline constexpr int kErroreIO = 57;          ///< a device failed while a file was read or written
 inline constexpr int kOggettoMancante = 91;   ///< an object is used that isn't there
 inline constexpr int kElementoMancante = 340; ///< an element of a control array that doesn't exist
+inline constexpr int kProprieta = 380;        ///< a property can't take that value
 inline constexpr int kImmagine = 481;         ///< a file that is no picture
 } // namespace guasti
 

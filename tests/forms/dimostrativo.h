@@ -34,11 +34,16 @@ inline constexpr Descrizione kControlli[] = {
     {.tipo = Tipo::Bottone, .nome = "cmdNumero", .indice = 0, .rett = {7750, 5850, 1450, 1500}, .carattere = kComando,
      .sfondo = rgb(207, 228, 254), .caption = "C & D"},
     {.tipo = Tipo::Casella, .nome = "txtBarCode", .rett = {6200, 7500, 3000, 700}, .carattere = kComando,
-     .nomeAccessibile = "Codice"},
+     .nomeAccessibile = "Codice", .lunghezzaMassima = 13},
     {.tipo = Tipo::Immagine, .nome = "picLogo", .rett = {9600, 930, 3000, 3000}, .figura = "prova"},
     {.tipo = Tipo::Etichetta, .nome = "lblMessaggio", .rett = {9600, 4100, 5400, 3000}, .carattere = {"Arial", 24, true},
      .allineamento = Allineamento::Centro, .sfondo = kBianco,
      .caption = "Attenzione: ritirare il piatto al banco, grazie", .visibile = false},
+    {.tipo = Tipo::Gruppo, .nome = "fraOpzioni", .rett = {9600, 7200, 5400, 3000}, .caption = "Opzioni"},
+    {.tipo = Tipo::Combo, .nome = "cboTipo", .padre = "fraOpzioni", .rett = {150, 450, 2400, 720}},
+    {.tipo = Tipo::Lista, .nome = "lstFont", .padre = "fraOpzioni", .rett = {2700, 450, 2400, 2400}},
+    {.tipo = Tipo::Spunta, .nome = "chkVocale", .padre = "fraOpzioni", .rett = {150, 1200, 2400, 720}, .caption = "Pronuncia", .scelta = 'p'},
+    {.tipo = Tipo::Cursore, .nome = "sldVelocita", .padre = "fraOpzioni", .rett = {150, 1950, 2400, 720}, .corsa = {-10, 10, 1, 5}},
 };
 // clang-format on
 

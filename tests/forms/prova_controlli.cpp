@@ -57,4 +57,34 @@ TEST(Controlli, OsservatoreSaDiOgniCambiamentoVero) {
     EXPECT_EQ(registro.visti.size(), attesi.size());
 }
 
+TEST(Controlli, ListeSpunteECursoriTengonoSoloCioCheHanno) {
+    Controlli c(dimostrativo::kLayout);
+    for (const char* nome : {"cboTipo", "lstFont"}) {
+        Controllo& lista = c(nome);
+        EXPECT_EQ(lista.ListIndex(), -1);
+        lista.AddItem("VERTICALE");
+        lista.AddItem("ORIZZONTALE");
+        lista.ListIndex(1);
+        for (const int fuori : {2, -2}) {
+            try {
+                lista.ListIndex(fuori);
+                ADD_FAILURE() << fuori;
+            } catch (const Guasto& g) {
+                EXPECT_EQ(g.numero(), 380);
+            }
+        }
+        EXPECT_EQ(lista.ListIndex(), 1);
+        lista.Clear();
+        EXPECT_EQ(lista.ListIndex(), -1);
+    }
+    for (const auto& [chiesto, preso] : {std::pair(0, 0), {1, 1}, {-1, 1}, {7, 1}}) {
+        c("chkVocale").Value(chiesto);
+        EXPECT_EQ(c("chkVocale").Value(), preso);
+    }
+    for (const auto& [chiesto, preso] : {std::pair(3, 3), {300, 10}, {-300, -10}}) {
+        c("sldVelocita").Value(chiesto);
+        EXPECT_EQ(c("sldVelocita").Value(), preso);
+    }
+}
+
 } // namespace

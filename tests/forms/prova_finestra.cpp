@@ -4,11 +4,14 @@
 #include "platform/guasto.h"
 #include "tests/forms/dimostrativo.h"
 
+#include <QComboBox>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QSlider>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -137,7 +140,8 @@ TEST_F(FinestraProva, ClicSuCioCheLiAccetta) {
     QTest::mouseRelease(&w("lblReparto", 0), Qt::LeftButton, {}, QPoint(-20, 5));
     QTest::keyClick(&w("cmdSpegni"), Qt::Key_Return); // what a scanner sends
     QTest::keyClick(&w("cmdAggiorna"), Qt::Key_Space);
-    EXPECT_EQ(clic, (std::vector<std::string>{"lblReparto(0)", "cmdAggiorna", "picNumero(0)", "cmdAggiorna"}));
+    EXPECT_EQ(clic,
+              (std::vector<std::string>{"lblReparto(0)", "cmdAggiorna", "picNumero(0)", "cmdAggiorna"}));
 }
 
 TEST_F(FinestraProva, ITastiPassanoPrimaDallaFinestra) {
@@ -157,6 +161,42 @@ TEST_F(FinestraProva, ITastiPassanoPrimaDallaFinestra) {
     EXPECT_EQ(visti, QStringLiteral("1x2\r")) << "each key once, though Enter climbs on to the window";
     EXPECT_EQ(c("txtBarCode").Caption(), "12");
     EXPECT_EQ(scritti, QStringLiteral("12"));
+}
+
+TEST_F(FinestraProva, ListeSpunteECursoriVannoNeiDueVersi) {
+    for (const char* voce : {"VERTICALE", "ORIZZONTALE", "BIG"}) {
+        c("cboTipo").AddItem(voce);
+        c("lstFont").AddItem(voce);
+    }
+    std::vector<std::string> cambi;
+    f.alCambioValore(
+        [&](const Controllo& x) { cambi.push_back(x.NomeCompleto() + "=" + std::to_string(x.Value())); });
+    c("cboTipo").ListIndex(1);
+    c("lstFont").ListIndex(2);
+    c("chkVocale").Value(1);
+    c("sldVelocita").Value(-4);
+    EXPECT_TRUE(cambi.empty()) << "what the logic sets is no choice of the operator";
+    auto& combo = dynamic_cast<QComboBox&>(w("cboTipo"));
+    auto& lista = dynamic_cast<QListWidget&>(w("lstFont"));
+    auto& cursore = dynamic_cast<QSlider&>(w("sldVelocita"));
+    EXPECT_EQ(combo.currentText(), QStringLiteral("ORIZZONTALE"));
+    EXPECT_EQ(lista.currentRow(), 2);
+    EXPECT_EQ(cursore.value(), -4);
+
+    mostra();
+    QTest::mouseClick(&w("chkVocale"), Qt::LeftButton);
+    QTest::keyClick(&f, Qt::Key_P, Qt::AltModifier); // the press shows for a moment before it counts
+    ASSERT_TRUE(QTest::qWaitFor([&] { return c("chkVocale").Value() == 1; }));
+    QTest::keyClick(&cursore, Qt::Key_Right);
+    QTest::keyClick(&cursore, Qt::Key_PageUp);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, lista.visualItemRect(lista.item(0)).center());
+    EXPECT_EQ(cambi, (std::vector<std::string>{"chkVocale=0", "chkVocale=1", "sldVelocita=-3",
+                                               "sldVelocita=2", "cboTipo=2", "lstFont=0"}));
+    c("cboTipo").Clear();
+    EXPECT_EQ(combo.count(), 0);
+    QTest::keyClicks(&w("txtBarCode"), QStringLiteral("59965010012334"));
+    EXPECT_EQ(c("txtBarCode").Caption(), "5996501001233") << "no longer than its limit";
 }
 
 TEST_F(FinestraProva, ChiusuraAttivazioneESfondo) {

@@ -33,6 +33,8 @@ void BottoneWidget::mostra(const Controllo& c, const Resa& resa) {
         return;
     // For accessibility; the doubled sign keeps Qt from taking it for a shortcut.
     setText(QString(testo_.testo()).replace(QLatin1Char('&'), QLatin1String("&&")));
+    setShortcut(scorciatoia(c)); // a new text drops the old one
+    testo_.sottolinea(c.disegno().scelta);
     tinta_ = c.ForeColor();
     sfondo_ = c.BackColor();
     raggio_ = resa.raggio;
@@ -86,7 +88,8 @@ void BottoneWidget::paintEvent(QPaintEvent*) {
     figura_.disegna(p, figura, Adattamento::Intera);
 }
 
-/// The space bar alone presses it. A scanner ends each code with Return: it must not press whatever button has the focus.
+/// The space bar alone presses it. A scanner ends each code with Return: it must not press whatever button
+/// has the focus.
 void BottoneWidget::keyPressEvent(QKeyEvent* evento) {
     if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
         evento->ignore();

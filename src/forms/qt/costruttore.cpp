@@ -3,11 +3,16 @@
 #include "forms/qt/bottone.h"
 #include "forms/qt/casella.h"
 #include "forms/qt/casella_righe.h"
+#include "forms/qt/combo.h"
+#include "forms/qt/cursore.h"
 #include "forms/qt/etichetta.h"
 #include "forms/qt/griglia_widget.h"
+#include "forms/qt/gruppo.h"
 #include "forms/qt/immagine.h"
+#include "forms/qt/lista.h"
 #include "forms/qt/riquadro.h"
 #include "forms/qt/tastiera_widget.h"
+#include "forms/qt/spunta.h"
 
 namespace lumigrafo {
 
@@ -34,6 +39,8 @@ Costruito bottone(Controllo& c, QWidget* padre, const Segnali& segnali) {
 
 Costruito casella(Controllo& c, QWidget* padre, const Segnali& segnali) {
     auto* w = new CasellaWidget(padre);
+    if (const int massima = c.disegno().lunghezzaMassima)
+        w->setMaxLength(massima);
     QObject::connect(w, &QLineEdit::textEdited, w,
                      [&c, &segnali](const QString& testo) { segnali.testo(c, testo.toStdString()); });
     return {w, w};
@@ -50,6 +57,14 @@ Costruito casellaRighe(Controllo& c, QWidget* padre, const Segnali& segnali) {
 
 Costruito tastiera(Tastiera::Forma forma, QWidget* padre) {
     auto* w = new TastieraWidget(forma, padre);
+    return {w, w};
+}
+
+/// `segnale` tells of the operator's choice alone: what the logic sets is blocked by the widget.
+template <typename W, typename S>
+Costruito conValore(Controllo& c, QWidget* padre, const Segnali& segnali, S segnale) {
+    auto* w = new W(c, padre);
+    QObject::connect(w, segnale, w, [&c, &segnali](int valore) { segnali.valore(c, valore); });
     return {w, w};
 }
 
@@ -84,6 +99,16 @@ Costruito costruisci(Controllo& c, QWidget* padre, const Segnali& segnali) {
         return griglia(padre);
     case Tipo::Linea:
         return superficie<LineaWidget>(c, padre, segnali);
+    case Tipo::Combo:
+        return conValore<ComboWidget>(c, padre, segnali, &QComboBox::currentIndexChanged);
+    case Tipo::Lista:
+        return conValore<ListaWidget>(c, padre, segnali, &QListWidget::currentRowChanged);
+    case Tipo::Spunta:
+        return conValore<SpuntaWidget>(c, padre, segnali, &QAbstractButton::toggled);
+    case Tipo::Cursore:
+        return conValore<CursoreWidget>(c, padre, segnali, &QSlider::valueChanged);
+    case Tipo::Gruppo:
+        return superficie<GruppoWidget>(c, padre, segnali);
     }
     return {};
 }

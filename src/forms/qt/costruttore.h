@@ -18,6 +18,7 @@ struct Costruito {
 struct Segnali {
     std::function<void(const Controllo&)> clic;
     std::function<void(Controllo&, std::string)> testo; ///< typed into a text box
+    std::function<void(Controllo&, int)> valore;        ///< chosen in a list, ticked, slid
 };
 
 /// Makes the widget of a control inside `padre`. The signals must outlive it.

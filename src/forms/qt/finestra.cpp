@@ -25,7 +25,7 @@ QString testo(std::string_view s) {
 
 bool tocca(Aspetto aspetto) {
     return aspetto == Aspetto::Testo || aspetto == Aspetto::Carattere || aspetto == Aspetto::Colori ||
-           aspetto == Aspetto::Figura;
+           aspetto == Aspetto::Figura || aspetto == Aspetto::Voci || aspetto == Aspetto::Valore;
 }
 
 } // namespace
@@ -44,6 +44,14 @@ Finestra::Finestra(Controlli& controlli, QWidget* padre, Qt::WindowFlags modi)
     segnali_.testo = [this](Controllo& c, std::string nuovo) {
         c.Caption(std::move(nuovo));
         if (const auto azione = testo_)
+            azione(c);
+    };
+    segnali_.valore = [this](Controllo& c, int nuovo) {
+        if (c.disegno().tipo == Tipo::Combo || c.disegno().tipo == Tipo::Lista)
+            c.ListIndex(nuovo);
+        else
+            c.Value(nuovo);
+        if (const auto azione = valore_)
             azione(c);
     };
     resize(aPixel(l.larghezza).v, aPixel(l.altezza).v);

@@ -50,6 +50,8 @@ public:
     void alClic(SuControllo azione) { clic_ = std::move(azione); }
     /// The operator typed into a text box; the control's caption has the new text already.
     void alCambioTesto(SuControllo azione) { testo_ = std::move(azione); }
+    /// The operator chose in a list, ticked a box or moved a slider; the control has the new value already.
+    void alCambioValore(SuControllo azione) { valore_ = std::move(azione); }
     /// A double click on the window itself or on a picture of its background.
     void alDoppioClicSfondo(std::function<void()> azione) { doppioClic_ = std::move(azione); }
     /// The pointer moved anywhere over the window; told again for each container that the movement climbs to.
@@ -83,7 +85,7 @@ private:
     Colore sfondo_;
     Segnali segnali_;
     std::unordered_map<const Controllo*, Costruito> viste_;
-    SuControllo clic_, testo_;
+    SuControllo clic_, testo_, valore_;
     std::function<void()> doppioClic_, movimento_, attivazione_;
     std::function<bool()> chiusura_;
     std::function<bool(const QKeyEvent&)> tasto_;

@@ -131,7 +131,22 @@ void TestoAdattato::disegna(QPainter& pennello, const QRect& area, const QColor&
     const double quota = allineamento_ == Allineamento::Centro   ? 0.5
                          : allineamento_ == Allineamento::Destra ? 1
                                                                  : 0;
-    pennello.drawText(QPointF(area.left() + std::round(avanzo * quota), std::round(base)), testo_);
+    const QPointF inizio(area.left() + std::round(avanzo * quota), std::round(base));
+    pennello.drawText(inizio, testo_);
+    sottolinea(pennello, inizio);
+}
+
+void TestoAdattato::sottolinea(QPainter& pennello, QPointF inizio) const {
+    const auto posto =
+        sottolineata_ ? testo_.indexOf(QLatin1Char(sottolineata_), 0, Qt::CaseInsensitive) : -1;
+    if (posto < 0)
+        return;
+    const QFontMetricsF m(adattato_);
+    const double prima = m.horizontalAdvance(testo_.left(posto));
+    const double spesso = std::max(1.0, std::round(adattato_.pixelSize() / 16.0));
+    pennello.fillRect(
+        QRectF(inizio.x() + prima, inizio.y() + 1.5 * spesso, m.horizontalAdvance(testo_.at(posto)), spesso),
+        pennello.pen().color());
 }
 
 } // namespace lumigrafo

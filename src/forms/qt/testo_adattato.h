@@ -19,6 +19,8 @@ class TestoAdattato {
 public:
     /// True if anything differs from before.
     bool imposta(const QString& testo, const QFont& carattere, Allineamento allineamento);
+    /// Underlines the first such letter of a text in one line, small or capital; 0 for none.
+    void sottolinea(char lettera) { sottolineata_ = lettera; }
     [[nodiscard]] const QString& testo() const { return testo_; }
     [[nodiscard]] const QFont& carattere() const { return carattere_; }
     void disegna(QPainter& pennello, const QRect& area, const QColor& colore) const;
@@ -28,10 +30,12 @@ public:
 private:
     void adatta(QSize area) const;
     [[nodiscard]] int orizzontale() const;
+    void sottolinea(QPainter& pennello, QPointF inizio) const;
 
     QString testo_;
     QFont carattere_;
     Allineamento allineamento_ = Allineamento::Sinistra;
+    char sottolineata_ = 0;
     // Worked out at the first painting, since a label may change more often than it is seen.
     mutable QSize misurata_;
     mutable QFont adattato_;

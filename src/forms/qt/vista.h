@@ -4,6 +4,7 @@
 #include "forms/scala.h"
 
 #include <QFont>
+#include <QKeySequence>
 
 class QWidget;
 
@@ -24,5 +25,12 @@ public:
     /// Position, visibility, enabling and order are the window's work.
     virtual void mostra(const Controllo& controllo, const Resa& resa) = 0;
 };
+
+/// The keys that press the control; none where its layout names no letter.
+[[nodiscard]] inline QKeySequence scorciatoia(const Controllo& c) {
+    const char lettera = c.disegno().scelta;
+    return lettera ? QKeySequence(QKeyCombination(Qt::ALT, static_cast<Qt::Key>(Qt::Key_A + (lettera - 'a'))))
+                   : QKeySequence();
+}
 
 } // namespace lumigrafo

@@ -1,0 +1,28 @@
+#include "forms/qt/gruppo.h"
+
+#include "platform/qt/aspetto.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+
+namespace lumigrafo {
+
+void GruppoWidget::mostra(const Controllo& c, const Resa& resa) {
+    titolo_.imposta(QString::fromStdString(c.Caption()), resa.carattere, c.disegno().allineamento);
+    tinta_ = c.ForeColor();
+    sfondo_ = c.BackColor();
+    raggio_ = resa.raggio;
+    update();
+}
+
+void GruppoWidget::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(aspetto::kBordo, 1));
+    p.setBrush(sfondo_ ? aspetto::colore(*sfondo_) : aspetto::kCarta);
+    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), raggio_, raggio_);
+    const int riga = QFontMetrics(titolo_.carattere()).height();
+    titolo_.disegna(p, QRect(riga / 2, riga / 3, width() - riga, riga), aspetto::colore(tinta_));
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,60 @@
+#include "forms/qt/spunta.h"
+
+#include "platform/qt/aspetto.h"
+
+#include <QPainter>
+#include <QSignalBlocker>
+
+#include <algorithm>
+
+namespace lumigrafo {
+
+namespace {
+
+/// Side of the box at the design: 24 pixels.
+constexpr Twip kLato = 360;
+
+} // namespace
+
+SpuntaWidget::SpuntaWidget(const Controllo&, QWidget* padre) : QAbstractButton(padre) {
+    setCheckable(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+}
+
+void SpuntaWidget::mostra(const Controllo& c, const Resa& resa) {
+    const QSignalBlocker zitto(this);
+    setChecked(c.Value() != 0);
+    testo_.imposta(QString::fromStdString(c.Caption()), resa.carattere, Allineamento::Sinistra);
+    setText(QString(testo_.testo()).replace(QLatin1Char('&'), QLatin1String("&&")));
+    setShortcut(scorciatoia(c)); // a new text drops the old one
+    testo_.sottolinea(c.disegno().scelta);
+    tinta_ = c.ForeColor();
+    lato_ = std::min(resa.scala.altezza(kLato), resa.scala.larghezza(kLato));
+    raggio_ = resa.raggio / 2;
+    update();
+}
+
+void SpuntaWidget::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const QRectF casella(2, (height() - lato_) / 2.0, lato_, lato_);
+    const bool acceso = isEnabled() && isChecked();
+    const bool vivo = hasFocus() || isDown() || acceso;
+    p.setPen(QPen(vivo ? aspetto::kAccento : aspetto::kBordo, hasFocus() ? 2.5 : 1.5));
+    p.setBrush(acceso ? aspetto::kAccento : underMouse() ? aspetto::kFinestra : aspetto::kCarta);
+    p.drawRoundedRect(casella, raggio_, raggio_);
+    if (isChecked()) {
+        p.setPen(QPen(isEnabled() ? aspetto::kCarta : aspetto::kBordo, lato_ / 8.0, Qt::SolidLine,
+                      Qt::RoundCap, Qt::RoundJoin));
+        const auto punto = [&](double x, double y) {
+            return casella.topLeft() + QPointF(x * lato_, y * lato_);
+        };
+        p.drawPolyline(QPolygonF{punto(0.22, 0.52), punto(0.43, 0.73), punto(0.80, 0.30)});
+    }
+    const int testo = lato_ + lato_ / 2;
+    testo_.disegna(p, rect().adjusted(testo, 0, 0, 0),
+                   isEnabled() ? aspetto::colore(tinta_) : aspetto::kBordo);
+}
+
+} // namespace lumigrafo
