@@ -47,7 +47,7 @@ void DialoghiQt::UtilitaFiscali() {
     fiscali_.UtilitaFiscali();
 }
 
-bool DialoghiQt::ChiediPassword(const std::string&) {
+bool DialoghiQt::ChiediPassword(const std::string&, const std::string&) {
     manca("La richiesta della password");
     return false;
 }

@@ -30,7 +30,7 @@ public:
     void frmImposta() override;
     void frmSagoma() override;
     void UtilitaFiscali() override;
-    bool ChiediPassword(const std::string& richiesta) override;
+    bool ChiediPassword(const std::string& messaggio, const std::string& attesa) override;
 
 private:
     void manca(const char* cosa);

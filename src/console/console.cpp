@@ -129,13 +129,13 @@ void Console::cmdRipristina() {
 }
 
 void Console::mnuDatabase() {
-    if (contesto_.porte.dialoghi.ChiediPassword("Password admin"))
+    if (contesto_.porte.dialoghi.ChiediPassword("Password admin", CodiceAdmin))
         dialogo(contesto_, [this] { contesto_.porte.dialoghi.frmDatabase(); });
 }
 
 void Console::mnuImposta() {
     dialogo(contesto_, [this] {
-        if (!contesto_.porte.dialoghi.ChiediPassword(""))
+        if (!contesto_.porte.dialoghi.ChiediPassword("Password admin", CodiceAdmin))
             return;
         ignorandoGuasti([this] { contesto_.frmVideata().Scarica(); });
         contesto_.porte.dialoghi.frmImposta();

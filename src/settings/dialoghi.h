@@ -4,6 +4,9 @@
 
 namespace lumigrafo {
 
+/// The code that opens the settings and the archive's path. It can't be changed.
+inline constexpr const char* CodiceAdmin = "81726";
+
 /// The dialogs around the console. Each call shows one modally and returns when it is gone.
 class Dialoghi {
 public:
@@ -18,8 +21,8 @@ public:
     virtual void frmSagoma() = 0;
     /// The fiscal component's own utilities.
     virtual void UtilitaFiscali() = 0;
-    /// True if the right code was typed.
-    virtual bool ChiediPassword(const std::string& richiesta) = 0;
+    /// Asks for a code under a caption; true if the expected one was typed.
+    virtual bool ChiediPassword(const std::string& messaggio, const std::string& attesa) = 0;
 };
 
 } // namespace lumigrafo

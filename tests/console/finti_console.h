@@ -42,8 +42,8 @@ public:
             durante();
     }
     void UtilitaFiscali() override { annota("UtilitaFiscali"); }
-    bool ChiediPassword(const std::string& richiesta) override {
-        annota("password " + richiesta);
+    bool ChiediPassword(const std::string& messaggio, const std::string& attesa) override {
+        annota("password " + messaggio + " " + attesa);
         return passwordGiusta;
     }
 };

@@ -88,16 +88,17 @@ TEST(Bottoni, MenusAskForThePasswordFirst) {
     b.dialoghi.passwordGiusta = false;
     b.console().mnuDatabase();
     b.console().mnuImposta();
-    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe",
-                                      "termina primopiano.exe", "password "));
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin 81726", "termina PrimoPiano.exe",
+                                      "termina primopiano.exe", "password Password admin 81726"));
     EXPECT_TRUE(b.board().caricata());
     b.dialoghi.passwordGiusta = true;
     b.diario.clear();
     b.console().mnuDatabase();
     b.console().mnuImposta();
-    EXPECT_THAT(b.diario, ElementsAre("password Password admin", "termina PrimoPiano.exe",
+    EXPECT_THAT(b.diario, ElementsAre("password Password admin 81726", "termina PrimoPiano.exe",
                                       "termina primopiano.exe", "frmDatabase", "termina PrimoPiano.exe",
-                                      "termina primopiano.exe", "password ", "videata chiusa", "frmImposta"));
+                                      "termina primopiano.exe", "password Password admin 81726",
+                                      "videata chiusa", "frmImposta"));
     EXPECT_FALSE(b.board().caricata());
 }
 
