@@ -68,6 +68,13 @@ Costruito conValore(Controllo& c, QWidget* padre, const Segnali& segnali, S segn
     return {w, w};
 }
 
+Costruito lista(Controllo& c, QWidget* padre, const Segnali& segnali) {
+    Costruito fatto = conValore<ListaWidget>(c, padre, segnali, &QListWidget::currentRowChanged);
+    QObject::connect(static_cast<ListaWidget*>(fatto.widget), &QListWidget::itemClicked, fatto.widget,
+                     [&c, &segnali] { segnali.clic(c); });
+    return fatto;
+}
+
 Costruito griglia(QWidget* padre) {
     auto* w = new GrigliaWidget(padre);
     return {w, w};
@@ -102,7 +109,7 @@ Costruito costruisci(Controllo& c, QWidget* padre, const Segnali& segnali) {
     case Tipo::Combo:
         return conValore<ComboWidget>(c, padre, segnali, &QComboBox::currentIndexChanged);
     case Tipo::Lista:
-        return conValore<ListaWidget>(c, padre, segnali, &QListWidget::currentRowChanged);
+        return lista(c, padre, segnali);
     case Tipo::Spunta:
         return conValore<SpuntaWidget>(c, padre, segnali, &QAbstractButton::toggled);
     case Tipo::Cursore:

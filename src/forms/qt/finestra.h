@@ -46,7 +46,7 @@ public:
     /// The window's own back colour.
     void sfondo(Colore c);
 
-    /// A button, or a label, box or picture that the layout makes clickable.
+    /// A button, an item of a list, or a label, box or picture that the layout makes clickable.
     void alClic(SuControllo azione) { clic_ = std::move(azione); }
     /// The operator typed into a text box; the control's caption has the new text already.
     void alCambioTesto(SuControllo azione) { testo_ = std::move(azione); }

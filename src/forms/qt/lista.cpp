@@ -2,6 +2,7 @@
 
 #include "forms/qt/voci.h"
 
+#include <QKeyEvent>
 #include <QScroller>
 #include <QSignalBlocker>
 
@@ -23,6 +24,14 @@ void ListaWidget::mostra(const Controllo& c, const Resa& resa) {
         setStyleSheet(foglioVoci(resa));
     }
     setCurrentRow(c.ListIndex());
+}
+
+void ListaWidget::keyPressEvent(QKeyEvent* evento) {
+    const bool invio = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+    if (invio && currentItem())
+        Q_EMIT itemClicked(currentItem());
+    else
+        QListWidget::keyPressEvent(evento);
 }
 
 } // namespace lumigrafo

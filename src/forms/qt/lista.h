@@ -6,11 +6,15 @@
 
 namespace lumigrafo {
 
-/// A list of which one item is chosen; it follows a finger that drags it.
+/// A list of which one item is chosen; it follows a finger that drags it. A touch on an item is a click too.
 class ListaWidget final : public QListWidget, public Vista {
 public:
     ListaWidget(const Controllo& controllo, QWidget* padre);
     void mostra(const Controllo& controllo, const Resa& resa) override;
+
+protected:
+    /// Enter is a touch on the chosen item.
+    void keyPressEvent(QKeyEvent* evento) override;
 };
 
 } // namespace lumigrafo
