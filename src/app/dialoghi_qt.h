@@ -6,21 +6,32 @@
 #include "platform/avvisi.h"
 #include "platform/orologio.h"
 #include "platform/processi.h"
+#include "platform/scelta_cartella.h"
 #include "platform/sistema.h"
 #include "settings/dialoghi.h"
+#include "settings/imposta.h"
+#include "settings/password.h"
 #include "settings/richiami.h"
 
 #include <functional>
 
 namespace lumigrafo {
 
-/// The dialogs as windows. Those that this version doesn't have yet say so.
-class DialoghiQt : public Dialoghi {
+/// What the windows of settings work with, beside what all dialogs have.
+struct ServiziImpostazioni {
+    Sistema& sistema;
+    SceltaCartella& sceltaCartella;
+    FinestreFiscali& fiscali;
+    std::function<void()> TimerVis; ///< switches on the console's timer of that name
+};
+
+/// The dialogs as windows.
+class DialoghiQt : public Dialoghi, public AzioniImposta {
 public:
     /// `console`: where the console stands on the desktop, twips. `richiami`: what dialogs call back in it.
     DialoghiQt(const ServiziSagoma& sagoma, Processi& processi, Alimentazione& alimentazione, Uscita& uscita,
-               Orologio& orologio, FinestreFiscali& fiscali, std::function<Rettangolo()> console,
-               std::function<RichiamiConsole&()> richiami);
+               Orologio& orologio, std::function<Rettangolo()> console,
+               std::function<RichiamiConsole&()> richiami, ServiziImpostazioni impostazioni);
 
     void frmSpegni() override;
     void frmDatabase() override;
@@ -30,11 +41,15 @@ public:
     void frmImposta() override;
     void frmSagoma() override;
     void UtilitaFiscali() override;
+    void frmColore(ColoriScelti& colori) override;
+    void frmFontSize(CarattereScelto& carattere) override;
+    void frmImpoLumigrafoAndroid() override;
+    void ImpostazioniFiscali() override;
+    void ApriImpostazioniSchermo() override;
+    void TimerVis() override;
     bool ChiediPassword(const std::string& messaggio, const std::string& attesa) override;
 
 private:
-    void manca(const char* cosa);
-
     ServiziSagoma sagoma_;
     std::function<Rettangolo()> console_;
     std::function<RichiamiConsole&()> richiami_;
@@ -42,7 +57,8 @@ private:
     Alimentazione& alimentazione_;
     Uscita& uscita_;
     Orologio& orologio_;
-    FinestreFiscali& fiscali_;
+    ServiziImpostazioni impostazioni_;
+    DomandaPassword domanda_;
 };
 
 } // namespace lumigrafo

@@ -19,8 +19,9 @@ Programma::Programma(const Ambiente& ambiente, Avvisi& avvisi, Uscita& uscita)
     : ambiente_(ambiente), sistema_(ambiente.cartella, [] { QApplication::beep(); }),
       dialoghi_(
           {ambiente_, pompa_, avvisi, messaggi_, schermi_, desktop_}, processi_, alimentazione_, uscita,
-          orologio_, fiscale_, [this] { return postoDi(finestra_); },
-          [this]() -> RichiamiConsole& { return console_.richiami(); }),
+          orologio_, [this] { return postoDi(finestra_); },
+          [this]() -> RichiamiConsole& { return console_.richiami(); },
+          {sistema_, sceltaCartella_, fiscale_, [this] { console_.TimerVis(); }}),
       annunciatore_(voce_, log_, pompa_, dati_,
                     [this](const std::string& testo) { notifiche_.NotificaPopup(testo); }),
       componente_({orologio_, avvisi, trasporti_, esecutore_, finestreComponente_}),

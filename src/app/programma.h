@@ -17,6 +17,7 @@
 #include "platform/linux/cliente_tcp.h"
 #include "platform/linux/desktop.h"
 #include "platform/linux/esecutore.h"
+#include "platform/linux/luoghi.h"
 #include "platform/linux/orologio.h"
 #include "platform/linux/processi.h"
 #include "platform/linux/sistema.h"
@@ -29,6 +30,7 @@
 #include "platform/qt/timers_qt.h"
 #include "platform/qt/voce_qt.h"
 #include "settings/qt/messaggi_qt.h"
+#include "settings/qt/scelta_cartella_qt.h"
 
 #include <memory>
 
@@ -57,6 +59,8 @@ private:
     MessaggiQt messaggi_{timers_};
     SchermiQt schermi_;
     DesktopLinux desktop_{processi_};
+    LuoghiLinux luoghi_;
+    SceltaCartellaQt sceltaCartella_{luoghi_};
     DialoghiQt dialoghi_;
     NotificheQt notifiche_;
     RegistroLog log_{ambiente_.cartella, orologio_};

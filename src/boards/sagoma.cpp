@@ -29,11 +29,18 @@ const Layout kLayoutSagoma{"frmSagoma", "", kLarghezza, kAltezza, rgb(243, 245, 
 
 } // namespace
 
-void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop) {
+void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop, Messaggi& messaggi) {
     const auto file = ambiente.file(kFileImpoSchermo);
     if (!(std::ofstream(file, std::ios::trunc) << "control.exe desk.cpl,@0,3\r\n").flush())
         throw Guasto(guasti::kAccesso);
-    desktop.apriImpostazioni(file);
+    try {
+        desktop.apriImpostazioni(file);
+    } catch (const Guasto& guasto) {
+        if (guasto.numero() != guasti::kFileNonTrovato)
+            throw;
+        messaggi.MostraMessaggio("Su questo computer non c'è un programma per le impostazioni dello schermo",
+                                 4);
+    }
 }
 
 Sagoma::Sagoma(const ServiziSagoma& servizi, const Rettangolo& console)
@@ -64,16 +71,8 @@ void Sagoma::attiva() {
         {"Sembra che il secondo monitor non sia collegato oppure che non sia stata impostata la spunta per estendere "
          "il desktop, vuoi impostarlo ora?",
          "Attenzione", Icona::Esclamazione, Bottoni::SiNo});
-    if (risposta != Risposta::Si)
-        return;
-    try {
-        ApriImpostazioniSchermo(s_.ambiente, s_.desktop);
-    } catch (const Guasto& guasto) {
-        if (guasto.numero() != guasti::kFileNonTrovato)
-            throw;
-        s_.messaggi.MostraMessaggio(
-            "Su questo computer non c'è un programma per le impostazioni dello schermo", 4);
-    }
+    if (risposta == Risposta::Si)
+        ApriImpostazioniSchermo(s_.ambiente, s_.desktop, s_.messaggi);
 }
 
 void Sagoma::ConfermaPosizione() {

@@ -16,9 +16,9 @@ namespace lumigrafo {
 /// The batch file that opens the display settings on the first platform; written everywhere.
 inline constexpr const char* kFileImpoSchermo = "imposchermo.bat";
 
-/// Opens the system's display settings for the operator. A program folder that can't be written, and a
-/// machine without such a program, throw Guasto.
-void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop);
+/// Opens the system's display settings for the operator; a machine without such a program says so. A program
+/// folder that can't be written throws Guasto.
+void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop, Messaggi& messaggi);
 
 /// What the search for the second monitor works with; all of it outlives the search.
 struct ServiziSagoma {

@@ -27,7 +27,8 @@ Rettangolo postoSalvato(const FileIni& ini) {
 Comandi::Comandi(ContestoConsole& contesto, Timer& Timer1)
     : c_(contesto), Timer1_(Timer1),
       timerBottoni_(c_.porte.timers.crea(5000ms, [this] { NascondiBottoni(); })),
-      timerPrimoPiano_(c_.porte.timers.crea(4000ms, [this] { timerPrimoPiano(); })) {
+      timerPrimoPiano_(c_.porte.timers.crea(4000ms, [this] { timerPrimoPiano(); })),
+      TimerVis_(c_.porte.timers.crea(2000ms, [] {})) {
     timerBottoni_->abilita(true);
 }
 

@@ -25,6 +25,8 @@ public:
     /// The tick that starts the companion program which keeps the console in front. Nothing ever switches its
     /// timer on: a running copy is only stopped.
     void timerPrimoPiano();
+    /// Starts the timer of the random test numbers, whose tick does nothing.
+    void TimerVis() { TimerVis_->abilita(true); }
     void cmdUscita();
     void cmdRiavvia();
     void cmdSpegni();
@@ -34,6 +36,7 @@ private:
     Timer& Timer1_;
     std::unique_ptr<Timer> timerBottoni_;
     std::unique_ptr<Timer> timerPrimoPiano_;
+    std::unique_ptr<Timer> TimerVis_;
 };
 
 } // namespace lumigrafo

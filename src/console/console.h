@@ -46,6 +46,8 @@ public:
     void mnuDatabase();
     void mnuImposta();
     void mnuFiscale();
+    /// Starts the timer that the settings dialog's hidden button is for.
+    void TimerVis() { comandi_.TimerVis(); }
 
 private:
     void cmdAggiorna();

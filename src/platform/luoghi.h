@@ -17,7 +17,7 @@ struct Luogo {
 class Luoghi {
 public:
     virtual ~Luoghi() = default;
-    /// Those of the network first. Never empty.
+    /// Those of the network first, the whole computer last. Never empty.
     [[nodiscard]] virtual std::vector<Luogo> elenco() const = 0;
 };
 

@@ -2,6 +2,7 @@
 
 #include "forms/verifica.h"
 #include "platform/conversioni.h"
+#include "settings/pannello_tastiera.h"
 #include "settings/scelta_path.h"
 #include "settings/stile.h"
 
@@ -38,23 +39,23 @@ constexpr std::array<Descrizione, 9> kResto{{
     {.tipo = Tipo::Bottone, .nome = "cmdScegliPath", .padre = "fraPubblicita", .rett = {12225, 525, 900, 825}, .figura = "cartella", .nomeAccessibile = "Scegli la cartella"},
     {.tipo = Tipo::Etichetta, .nome = "lblNotaPath", .padre = "fraPubblicita", .rett = {225, 1425, 12900, 900}, .carattere = stile::kEtichetta, .testo = stile::kNota,
      .caption = "Inserire il percorso di una cartella condivisa nel formato '\\\\server\\cartella', dove presenti il file pubblicit*.jpg da proiettare nel lumigrafo. "},
-    {.tipo = Tipo::Gruppo, .nome = "fraSolo", .rett = {225, 6600, 13350, 975}},
-    {.tipo = Tipo::Spunta, .nome = "chkSoloAndroid", .padre = "fraSolo", .rett = {225, 120, 4800, 735}, .carattere = stile::kCasella, .testo = stile::kTesto, .caption = "Solo lumigrafo Android", .scelta = 's'},
-    {.tipo = Tipo::Etichetta, .nome = "lblNotaSolo", .padre = "fraSolo", .rett = {5250, 120, 7875, 735}, .carattere = stile::kEtichetta, .testo = stile::kNota, .caption = "Non verrà visualizzato il lumigrafo collegato a questa postazione"},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 7725, 3675, 975}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
-    {.tipo = Tipo::Bottone, .nome = "cmdApplica", .rett = {9900, 7725, 3675, 975}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Conferma", .scelta = 'c'},
+    {.tipo = Tipo::Gruppo, .nome = "fraSolo", .rett = {225, 6675, 13350, 1125}},
+    {.tipo = Tipo::Spunta, .nome = "chkSoloAndroid", .padre = "fraSolo", .rett = {225, 150, 4800, 825}, .carattere = stile::kCasella, .testo = stile::kTesto, .caption = "Solo lumigrafo Android", .scelta = 's'},
+    {.tipo = Tipo::Etichetta, .nome = "lblNotaSolo", .padre = "fraSolo", .rett = {5250, 150, 7875, 825}, .carattere = stile::kEtichetta, .testo = stile::kNota, .caption = "Non verrà visualizzato il lumigrafo collegato a questa postazione"},
+    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 8175, 3675, 1125}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
+    {.tipo = Tipo::Bottone, .nome = "cmdApplica", .rett = {9900, 8175, 3675, 1125}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Conferma", .scelta = 'c'},
 }};
 // clang-format on
 
 constexpr auto kControlli =
     unisci(lumigrafo(0, "FrameAndroid(0)", "Lumigrafo 1"), lumigrafo(1, "FrameAndroid(1)", "Lumigrafo 2"),
-           lumigrafo(2, "FrameAndroid(2)", "Lumigrafo 3"), kResto);
+           lumigrafo(2, "FrameAndroid(2)", "Lumigrafo 3"), kResto, pannelloTastiera({0, 5475, 13800, 4125}));
 static_assert(layoutValido(kControlli));
 
 const Layout kLayout{"frmImpoLumigrafoAndroid",
                      "Impostazioni per invio dati a lumigrafo Android",
                      13800,
-                     8925,
+                     9600,
                      stile::kFondo,
                      kControlli};
 
@@ -90,6 +91,10 @@ ImpoLumigrafoAndroid::ImpoLumigrafoAndroid(const Ambiente& ambiente, SceltaCarte
     controlli_("chkSoloAndroid").Value(aIntero16(ini_.LeggiIni(kSezioneAndroid, "SoloAndroid", 0)));
 }
 
+void ImpoLumigrafoAndroid::fuoco(std::string_view nome) {
+    seguiFuoco(controlli_, nome);
+}
+
 void ImpoLumigrafoAndroid::cambio(std::string_view nome, int indice) {
     if (nome == "sldFont")
         controlli_("lblValore", indice).Caption(std::to_string(controlli_("sldFont", indice).Value()));
@@ -113,6 +118,8 @@ void ImpoLumigrafoAndroid::clic(std::string_view nome, int) {
                                                  RichiestaCartella::kSoloFileSystem, RichiestaCartella::kRete,
                                                  txtPathPubblicita.Caption()));
         txtPathPubblicita.SetFocus();
+    } else if (nome == "cmdNascondiTastiera") {
+        controlli_("chkSoloAndroid").SetFocus();
     } else if (nome == "cmdApplica") {
         cmdApplica();
     } else if (nome == "cmdAnnulla") {

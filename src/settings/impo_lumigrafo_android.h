@@ -21,6 +21,8 @@ public:
 
     [[nodiscard]] Controlli& controlli() { return controlli_; }
     void clic(std::string_view nome, int indice);
+    /// The focus went to that control.
+    void fuoco(std::string_view nome);
     /// A slider was moved: its value stands beside it.
     void cambio(std::string_view nome, int indice);
 

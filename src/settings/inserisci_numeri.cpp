@@ -24,7 +24,7 @@ constexpr auto kAttesaMuta = 500ms;
 constexpr Twip kBarra = 7950;
 
 // clang-format off
-constexpr std::array<Descrizione, 8> kControlli{{
+constexpr std::array<Descrizione, 9> kControlli{{
     {.tipo = Tipo::Etichetta, .nome = "Label1", .rett = {225, 300, 4800, 900}, .carattere = stile::kIntestazione, .testo = stile::kTitolo, .caption = "Inserire numero di partenza"},
     {.tipo = Tipo::Casella, .nome = "txtNumero", .rett = {5175, 300, 3000, 900}, .carattere = {"Arial", 20, true}, .allineamento = Allineamento::Centro, .testo = stile::kTesto, .caption = "1", .nomeAccessibile = "Numero di partenza"},
     {.tipo = Tipo::Etichetta, .nome = "Label2", .rett = {225, 1350, 7950, 900}, .carattere = stile::kEtichetta, .testo = stile::kNota, .caption = "Con questa funzione verranno inseriti automaticamente i numeri fino a 999"},
@@ -33,11 +33,12 @@ constexpr std::array<Descrizione, 8> kControlli{{
     {.tipo = Tipo::Etichetta, .nome = "lblAvanzamento", .rett = {225, 2625, 7950, 375}, .carattere = stile::kEtichetta, .allineamento = Allineamento::Centro, .testo = stile::kTesto, .visibile = false},
     {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 3150, 3600, 975}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
     {.tipo = Tipo::Bottone, .nome = "cmdOK", .rett = {4575, 3150, 3600, 975}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Conferma", .scelta = 'c'},
+    {.tipo = Tipo::Numerica, .nome = "ctlTastiera21", .rett = {8550, 300, 4350, 3825}, .carattere = stile::kIntestazione, .nomeAccessibile = "Tastiera numerica"},
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));
 
-const Layout kLayout{"frmInserisciNumeri", "Inserimento numeri", 8400, 4350, stile::kFondo, kControlli};
+const Layout kLayout{"frmInserisciNumeri", "Inserimento numeri", 13125, 4425, stile::kFondo, kControlli};
 
 std::string inserimento(int numero) {
     return "Insert into lumigrafo (sigla, numero, categoria1, categoria2, categoria3, categoria4, categoria5, "

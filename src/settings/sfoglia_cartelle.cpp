@@ -79,7 +79,8 @@ std::filesystem::path SfogliaCartelle::inizio(const RichiestaCartella& richiesta
     };
     if (std::any_of(luoghi_.begin(), luoghi_.end(), contiene) && cartellaVera(attuale))
         return attuale;
-    return luoghi_.front().cartella; // those of the network come first
+    // Without a network the whole computer, the last place, is where to begin.
+    return (luoghi_.front().rete ? luoghi_.front() : luoghi_.back()).cartella;
 }
 
 void SfogliaCartelle::vai(const std::filesystem::path& cartella) {

@@ -6,8 +6,11 @@ namespace lumigrafo {
 
 void CasellaWidget::mostra(const Controllo& c, const Resa& resa) {
     const QString testo = QString::fromStdString(c.Caption());
-    if (text() != testo)
-        setText(testo); // an equal one would move the cursor under the typing hand
+    if (text() != testo) { // an equal one would move the cursor under the typing hand
+        setText(testo);
+        if (!hasFocus())
+            setCursorPosition(0); // a long text shows its beginning
+    }
     if (font() != resa.carattere)
         setFont(resa.carattere);
     // A palette would be half overruled by the program's style sheet.

@@ -11,8 +11,8 @@
 #include "forms/qt/immagine.h"
 #include "forms/qt/lista.h"
 #include "forms/qt/riquadro.h"
-#include "forms/qt/tastiera_widget.h"
 #include "forms/qt/spunta.h"
+#include "forms/qt/tastiera_widget.h"
 
 namespace lumigrafo {
 
@@ -22,6 +22,7 @@ template <typename W>
 Costruito superficie(Controllo& c, QWidget* padre, const Segnali& segnali) {
     auto* w = new W(c, padre);
     w->alClic([&c, &segnali] { segnali.clic(c); });
+    w->alClicDestro([&c, &segnali] { segnali.clicDestro(c); });
     return {w, w};
 }
 
@@ -55,11 +56,6 @@ Costruito casellaRighe(Controllo& c, QWidget* padre, const Segnali& segnali) {
     return {w, w};
 }
 
-Costruito tastiera(Tastiera::Forma forma, QWidget* padre) {
-    auto* w = new TastieraWidget(forma, padre);
-    return {w, w};
-}
-
 /// `segnale` tells of the operator's choice alone: what the logic sets is blocked by the widget.
 template <typename W, typename S>
 Costruito conValore(Controllo& c, QWidget* padre, const Segnali& segnali, S segnale) {
@@ -73,6 +69,11 @@ Costruito lista(Controllo& c, QWidget* padre, const Segnali& segnali) {
     QObject::connect(static_cast<ListaWidget*>(fatto.widget), &QListWidget::itemClicked, fatto.widget,
                      [&c, &segnali] { segnali.clic(c); });
     return fatto;
+}
+
+Costruito tastiera(Tastiera::Forma forma, QWidget* padre) {
+    auto* w = new TastieraWidget(forma, padre);
+    return {w, w};
 }
 
 Costruito griglia(QWidget* padre) {

@@ -17,6 +17,7 @@ struct Costruito {
 /// What a widget reports of the operator.
 struct Segnali {
     std::function<void(const Controllo&)> clic;
+    std::function<void(const Controllo&)> clicDestro;
     std::function<void(Controllo&, std::string)> testo; ///< typed into a text box
     std::function<void(Controllo&, int)> valore;        ///< chosen in a list, ticked, slid
 };

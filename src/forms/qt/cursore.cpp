@@ -33,12 +33,13 @@ void CursoreWidget::mostra(const Controllo& c, const Resa& resa) {
     const QSignalBlocker zitto(this);
     setValue(c.Value());
     const int solco = resa.scala.altezza(kSolco);
-    const int pomello = resa.scala.altezza(kPomello);
+    const int oltre = (resa.scala.altezza(kPomello) - solco) / 2;
+    const int pomello = solco + 2 * oltre; // a radius beyond its half would leave it square
     const QString foglio = QString::fromLatin1(kFoglio)
                                .arg(solco)
                                .arg(solco / 2)
                                .arg(pomello - 4) // its edge is drawn outside
-                               .arg((pomello - solco) / 2)
+                               .arg(oltre)
                                .arg(pomello / 2);
     if (styleSheet() != foglio)
         setStyleSheet(foglio);

@@ -10,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <algorithm>
 #include <utility>
 
 namespace lumigrafo {
@@ -41,6 +42,10 @@ Finestra::Finestra(Controlli& controlli, QWidget* padre, Qt::WindowFlags modi)
         if (const auto azione = clic_)
             azione(c);
     };
+    segnali_.clicDestro = [this](const Controllo& c) {
+        if (const auto azione = clicDestro_)
+            azione(c);
+    };
     segnali_.testo = [this](Controllo& c, std::string nuovo) {
         c.Caption(std::move(nuovo));
         if (const auto azione = testo_)
@@ -60,9 +65,15 @@ Finestra::Finestra(Controlli& controlli, QWidget* padre, Qt::WindowFlags modi)
     controlli_.osserva(this);
     // One filter for the program instead of one a child: keys are met first whatever widget has the focus.
     QCoreApplication::instance()->installEventFilter(this);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, const QWidget* nuovo) {
+        const auto azione = fuoco_;
+        if (azione && nuovo && nuovo->window() == window())
+            azione(conFuoco());
+    });
 }
 
 Finestra::~Finestra() {
+    disconnect(qApp, nullptr, this, nullptr); // the widgets lose the focus after the hooks are gone
     controlli_.osserva(nullptr);
 }
 
@@ -116,8 +127,8 @@ void Finestra::mostra(const Controllo& c, const Costruito& fatto, const Scala& s
 
 void Finestra::nomina(const Controllo& c, QWidget& w) const {
     const Descrizione& d = c.disegno();
-    const bool contenuto = d.tipo == Tipo::Casella ||
-                           d.tipo == Tipo::Righe; // its caption is what was typed, not what it is
+    const bool contenuto =
+        d.tipo == Tipo::Casella || d.tipo == Tipo::Righe; // its caption is what was typed, not what it is
     QString nome = testo(d.nomeAccessibile);
     if (nome.isEmpty() && !contenuto)
         nome = testo(c.Caption());
@@ -171,6 +182,13 @@ void Finestra::prendiFuoco(QWidget& w) {
 QWidget* Finestra::widget(std::string_view nome, int indice) const {
     const Controllo* c = controlli_.cerca(nome, indice);
     return c ? viste_.at(c).widget : nullptr;
+}
+
+const Controllo* Finestra::conFuoco() const {
+    const QWidget* w = QApplication::focusWidget();
+    const auto trovata = std::find_if(viste_.begin(), viste_.end(),
+                                      [w](const auto& vista) { return vista.second.widget == w; });
+    return trovata == viste_.end() ? nullptr : trovata->first;
 }
 
 GrigliaWidget& Finestra::collegaGriglia(std::string_view nome, int indice, Griglia& griglia) {

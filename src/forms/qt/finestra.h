@@ -48,6 +48,12 @@ public:
 
     /// A button, an item of a list, or a label, box or picture that the layout makes clickable.
     void alClic(SuControllo azione) { clic_ = std::move(azione); }
+    /// The same with the right button: on a label, box or picture that takes clicks.
+    void alClicDestro(SuControllo azione) { clicDestro_ = std::move(azione); }
+    /// The focus went to another control of this window; null where none has it now.
+    void alFuoco(std::function<void(const Controllo*)> azione) { fuoco_ = std::move(azione); }
+    /// The control that has the focus, or null.
+    [[nodiscard]] const Controllo* conFuoco() const;
     /// The operator typed into a text box; the control's caption has the new text already.
     void alCambioTesto(SuControllo azione) { testo_ = std::move(azione); }
     /// The operator chose in a list, ticked a box or moved a slider; the control has the new value already.
@@ -85,7 +91,8 @@ private:
     Colore sfondo_;
     Segnali segnali_;
     std::unordered_map<const Controllo*, Costruito> viste_;
-    SuControllo clic_, testo_, valore_;
+    SuControllo clic_, clicDestro_, testo_, valore_;
+    std::function<void(const Controllo*)> fuoco_;
     std::function<void()> doppioClic_, movimento_, attivazione_;
     std::function<bool()> chiusura_;
     std::function<bool(const QKeyEvent&)> tasto_;

@@ -22,7 +22,7 @@ void GruppoWidget::paintEvent(QPaintEvent*) {
     p.setBrush(sfondo_ ? aspetto::colore(*sfondo_) : aspetto::kCarta);
     p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), raggio_, raggio_);
     const int riga = QFontMetrics(titolo_.carattere()).height();
-    titolo_.disegna(p, QRect(riga / 2, riga / 3, width() - riga, riga), aspetto::colore(tinta_));
+    titolo_.disegna(p, QRect(riga * 2 / 3, riga / 3, width() - riga, riga), aspetto::colore(tinta_));
 }
 
 } // namespace lumigrafo

@@ -11,15 +11,19 @@ Superficie::Superficie(const Controllo& controllo, QWidget* padre)
     : QWidget(padre), cliccabile_(controllo.disegno().cliccabile) {}
 
 void Superficie::mousePressEvent(QMouseEvent* evento) {
-    premuto_ = cliccabile_ && evento->button() == Qt::LeftButton;
+    premuto_ = cliccabile_ ? evento->button() : Qt::NoButton;
     evento->setAccepted(cliccabile_);
 }
 
 void Superficie::mouseReleaseEvent(QMouseEvent* evento) {
     evento->setAccepted(cliccabile_);
-    if (!std::exchange(premuto_, false) || !rect().contains(evento->position().toPoint()))
+    const Qt::MouseButton premuto = std::exchange(premuto_, Qt::NoButton);
+    if (premuto != evento->button() || !rect().contains(evento->position().toPoint()))
         return;
-    if (const auto azione = clic_)
+    const auto azione = premuto == Qt::LeftButton    ? clic_
+                        : premuto == Qt::RightButton ? clicDestro_
+                                                     : nullptr;
+    if (azione)
         azione();
 }
 

@@ -14,6 +14,7 @@ class Superficie : public QWidget, public Vista {
 public:
     Superficie(const Controllo& controllo, QWidget* padre);
     void alClic(std::function<void()> azione) { clic_ = std::move(azione); }
+    void alClicDestro(std::function<void()> azione) { clicDestro_ = std::move(azione); }
 
 protected:
     void mousePressEvent(QMouseEvent* evento) override;
@@ -24,9 +25,9 @@ protected:
     void riempi(QPainter& pennello, const QBrush& tinta, int raggio) const;
 
 private:
-    std::function<void()> clic_;
+    std::function<void()> clic_, clicDestro_;
     bool cliccabile_;
-    bool premuto_ = false;
+    Qt::MouseButton premuto_ = Qt::NoButton;
 };
 
 } // namespace lumigrafo

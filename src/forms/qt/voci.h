@@ -34,9 +34,10 @@ namespace lumigrafo {
 /// The style sheet of items: lines as high as a finger is broad, at the window's present size.
 [[nodiscard]] inline QString foglioVoci(const Resa& resa) {
     constexpr int kAltezza = 660; // twips: 44 pixels at the design
-    return QStringLiteral("QListView { background: #ffffff; border: 1px solid #becad5; outline: 0; }"
-                          "QListView::item { height: %1px; padding-left: %2px; color: #1f2933; }"
-                          "QListView::item:selected { background: #2f6da8; color: #ffffff; }")
+    return QStringLiteral(
+               "QListView { background: #ffffff; border: 1px solid #becad5; outline: 0; }"
+               "QListView::item { height: %1px; padding-left: %2px; color: #1f2933; border: 0; background: #ffffff; }"
+               "QListView::item:selected { background: #2f6da8; color: #ffffff; }")
         .arg(resa.scala.altezza(kAltezza))
         .arg(resa.scala.larghezza(120));
 }
