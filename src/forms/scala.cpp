@@ -9,6 +9,9 @@ namespace {
 
 /// A point is 20 twips.
 constexpr double kTwipPerPunto = 20;
+/// Beyond any window: type of a million points, as a slip in the settings makes it, would never be drawn to
+/// its end.
+constexpr double kPixelMassimi = 10000;
 
 int arrotondato(double v) {
     return static_cast<int>(std::lround(v));
@@ -26,7 +29,7 @@ RettangoloPixel Scala::rettangolo(const Rettangolo& r) const {
 }
 
 int Scala::carattere(double punti) const {
-    return std::max(1, arrotondato(punti * kTwipPerPunto * std::min(x_, y_)));
+    return arrotondato(std::clamp(punti * kTwipPerPunto * std::min(x_, y_), 1.0, kPixelMassimi));
 }
 
 int Scala::larghezza(Twip t) const {

@@ -22,7 +22,7 @@ public:
 
     /// Neighbouring edges stay neighbours: each edge is rounded by itself.
     [[nodiscard]] RettangoloPixel rettangolo(const Rettangolo& rett) const;
-    /// Height of the type in pixels, at least 1, for a size in points at the design.
+    /// Height of the type in pixels, 1 to 10000, for a size in points at the design.
     [[nodiscard]] int carattere(double punti) const;
     [[nodiscard]] int larghezza(Twip t) const;
     [[nodiscard]] int altezza(Twip t) const;

@@ -23,6 +23,7 @@ TEST(Scala, OgniAsseSegueLaFinestraEIlCarattereIlPiuPiccolo) {
     EXPECT_EQ(larga.larghezza(150), 30);
     EXPECT_EQ(larga.altezza(150), 20);
     EXPECT_EQ(Scala(kQuadrato, 1, 1).carattere(72), 1) << "type never vanishes";
+    EXPECT_EQ(larga.carattere(1e30), 10000) << "nor is it larger than can be drawn";
 }
 
 TEST(Scala, ViciniRestanoVicini) {
