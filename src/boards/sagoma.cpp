@@ -13,9 +13,11 @@ namespace {
 
 constexpr Twip kLarghezza = 4560;
 constexpr Twip kAltezza = 3030;
-/// How far beyond the console's edges the two tries go.
+/// How far beyond the console's edges the two tries go, and how far down its height each of them looks: a
+/// monitor beside it needn't begin where it does.
 constexpr Twip kOltreDestra = 1000;
 constexpr Twip kOltreSinistra = 100;
+constexpr std::array kAltezzeProvate{0.0, 0.5, 1.0};
 
 // clang-format off
 constexpr std::array<Descrizione, 1> kControlli{{
@@ -53,17 +55,20 @@ void Sagoma::sposta(const Rettangolo& posto) {
         mossa_();
 }
 
-bool Sagoma::suUnMonitor() const {
-    return monitorDi(s_.schermi, posto_).has_value();
+bool Sagoma::trovaMonitor(Twip left) {
+    for (const double quota : kAltezzeProvate) {
+        sposta({left, console_.top + (console_.height - kAltezza) * quota, kLarghezza, kAltezza});
+        if (monitorDi(s_.schermi, posto_))
+            return true;
+    }
+    return false;
 }
 
 void Sagoma::attiva() {
     s_.pompa.cedi("frmSagoma/1");
     // The console is taken to fill its screen: its width, from where it stands, leads past the right edge.
-    sposta({console_.left + console_.width + kOltreDestra, posto_.top, kLarghezza, kAltezza});
-    if (!suUnMonitor())
-        sposta({console_.left - kLarghezza - kOltreSinistra, posto_.top, kLarghezza, kAltezza});
-    if (suUnMonitor()) {
+    if (trovaMonitor(console_.left + console_.width + kOltreDestra) ||
+        trovaMonitor(console_.left - kLarghezza - kOltreSinistra)) {
         ConfermaPosizione();
         return;
     }

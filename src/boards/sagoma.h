@@ -48,7 +48,8 @@ public:
 
 private:
     void sposta(const Rettangolo& posto);
-    [[nodiscard]] bool suUnMonitor() const;
+    /// Steps there, from the console's top down; true where it stands on a monitor.
+    [[nodiscard]] bool trovaMonitor(Twip left);
     void ConfermaPosizione();
 
     ServiziSagoma s_;

@@ -73,6 +73,16 @@ INSTANTIATE_TEST_SUITE_P(
              {{kPrimario, kPrimario, true}, {{-19200, 0, 19200, 15360}, {-19200, 0, 19200, 15360}, false}},
              kPrimario,
              Rettangolo{-19200, 0, 19200, 15360}},
+        Caso{
+            "destra_allineato_in_basso",
+            {{kPrimario, kPrimario, true}, {{28800, 5400, 19200, 10800}, {28800, 5400, 19200, 10800}, false}},
+            kPrimario,
+            Rettangolo{28800, 5400, 19200, 10800}},
+        Caso{"in_basso_di_fianco",
+             {{kPrimario, kPrimario, true},
+              {{28800, 16200, 19200, 10800}, {28800, 16200, 19200, 10800}, false}},
+             kPrimario,
+             std::nullopt},
         // The window system counts from the second monitor's corner, so the console doesn't stand at 0.
         Caso{"sinistra_dall_origine",
              {{{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true},
