@@ -72,6 +72,9 @@ void Sagoma::attiva() {
         ConfermaPosizione();
         return;
     }
+    // The question stands where the template does: not beside all monitors.
+    sposta({console_.left + (console_.width - kLarghezza) * 0.5,
+            console_.top + (console_.height - kAltezza) * 0.5, kLarghezza, kAltezza});
     const Risposta risposta = s_.avvisi.chiedi(
         {"Sembra che il secondo monitor non sia collegato oppure che non sia stata impostata la spunta per estendere "
          "il desktop, vuoi impostarlo ora?",

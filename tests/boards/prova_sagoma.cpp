@@ -55,6 +55,7 @@ TEST_P(Posizionamento, FindsTheMonitorBesideTheConsole) {
         return;
     }
     EXPECT_EQ(leggi("Left"), "-"); // the old values stay
+    EXPECT_TRUE(monitorDi(schermi, sagoma.posto())) << "the question isn't out of sight";
     ASSERT_EQ(avvisi.mostrati.size(), 1U);
     EXPECT_EQ(avvisi.mostrati[0].titolo, "Attenzione");
     EXPECT_EQ(avvisi.mostrati[0].bottoni, Bottoni::SiNo);
