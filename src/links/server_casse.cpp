@@ -58,13 +58,13 @@ void ServerCasseTcp::accogli(std::int64_t requestID) {
         return;
     wsServer_[slot]->LocalPort(0);
     wsServer_[slot]->Accept(requestID);
-    ++collegamenti_[slot].ultimo;
+    ++collegamenti_[slot];
     ScriviLogConnessioni_("Connected sock. n. " + std::to_string(slot) + " " +
                           wsServer_[slot]->RemoteHostIP() + " at " + testoOra(orologio_.adesso()));
 }
 
 void ServerCasseTcp::DataArrival(std::size_t Index) {
-    const unsigned collegamento = collegamenti_[Index].ultimo;
+    const unsigned collegamento = collegamenti_[Index];
     const std::string testo = wsServer_[Index]->GetData();
     ScriviLogConnessioni_("Received: " + testo);
     if (testo.empty())
@@ -80,20 +80,16 @@ void ServerCasseTcp::DataArrival(std::size_t Index) {
 }
 
 void ServerCasseTcp::rispondi(std::size_t Index, unsigned collegamento, const std::string& testo) {
-    // Two ways of not reaching a desk. One that turns out to have vanished when it is answered is no failure:
-    // the answer is lost, and the slot is freed as by a close. One that closed its connection in the middle
-    // of its own request is a failure of the program, whether or not another desk has the slot by now.
-    Collegamenti& c = collegamenti_[Index];
-    if (c.caduto == collegamento)
+    // A desk can be gone when its answer is ready, closed or vanished, which look alike from here, and
+    // another one can have its slot: the answer is lost, and the station goes on.
+    PresaServer& presa = *wsServer_[Index];
+    if (presa.State() == StatoPresa::Chiusa || collegamenti_[Index] != collegamento)
         return;
-    if (c.ultimo != collegamento)
-        throw Guasto(guasti::kStatoConnessione, "La cassa ha chiuso il collegamento durante la richiesta");
     try {
-        wsServer_[Index]->SendData(testo);
+        presa.SendData(testo);
     } catch (const Guasto& guasto) {
         if (guasto.numero() != guasti::kConnessioneCaduta)
             throw;
-        c.caduto = collegamento;
     }
 }
 

@@ -54,11 +54,8 @@ private:
     int porta_;
     /// 0 listens, 1 to 10 are the slots; a slot is free while it is closed.
     std::array<std::unique_ptr<PresaServer>, kPosti + 1> wsServer_;
-    /// Connections of a slot, counted from 1: the latest, and the latest that was found to have vanished.
-    struct Collegamenti {
-        unsigned ultimo = 0, caduto = 0;
-    };
-    std::array<Collegamenti, kPosti + 1> collegamenti_;
+    /// How many connections a slot has had: an answer is for the one that asked.
+    std::array<unsigned, kPosti + 1> collegamenti_{};
 };
 
 } // namespace lumigrafo

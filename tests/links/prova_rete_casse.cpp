@@ -102,7 +102,15 @@ TEST_F(ReteCasse, aDeskThatIsResetIsNoFailure) {
     coda.durante = [&] { a->tronca(); }; // no event tells: the answer finds it
     a->manda("A");
     EXPECT_TRUE(finche([&] { return quante("Closed socket n. 1") == 1; }));
-    EXPECT_EQ(chiedi(*cassa(), "A", 8), "NUMERO 2");
+
+    auto b = cassa();
+    coda.durante = [&] {
+        b->tronca();
+        EXPECT_TRUE(finche([&] { return quante("Closed socket n. 1") == 2; }));
+    };
+    b->manda("B");
+    EXPECT_TRUE(finche([&] { return coda.dati == 2; }));
+    EXPECT_EQ(chiedi(*cassa(), "A", 8), "NUMERO 3");
 }
 
 TEST_F(ReteCasse, aDeskMayAskAgainInTheMiddleOfItsRequest) {
