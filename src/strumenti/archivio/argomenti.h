@@ -1,9 +1,9 @@
 #pragma once
 
 #include "strumenti/archivio/cassa.h"
+#include "strumenti/chiamata.h"
 
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <variant>
 #include <vector>
@@ -27,10 +27,7 @@ struct Mostra {
 };
 using Comando = std::variant<Aiuto, Versione, Crea, AggiungiOrdine, Mostra>;
 
-/// A call that can't be understood; the text tells the user why.
-struct ErroreDiUso : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+using strumenti::ErroreDiUso;
 
 /// The words behind the program's name. Throws ErroreDiUso.
 [[nodiscard]] Comando leggiArgomenti(const std::vector<std::string>& argomenti);

@@ -14,7 +14,9 @@ namespace lumigrafo::archivio {
 
 namespace {
 
-constexpr int kFatto = 0, kFallito = 1, kChiamataErrata = 2;
+using strumenti::kChiamataErrata;
+using strumenti::kFallito;
+using strumenti::kFatto;
 
 constexpr const char* kAiuto = R"(Uso: lumigrafo-archivio COMANDO CARTELLA [OPZIONI]
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <stdexcept>
+#include "strumenti/chiamata.h"
+
 #include <string>
 #include <vector>
 
@@ -14,10 +15,7 @@ struct Argomenti {
     int ogni = 0; ///< seconds between two requests; 0: a single one
 };
 
-/// A call that can't be understood; the text tells the user why.
-struct ErroreDiUso : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+using strumenti::ErroreDiUso;
 
 /// The words behind the program's name. Throws ErroreDiUso.
 [[nodiscard]] Argomenti leggiArgomenti(const std::vector<std::string>& parole);

@@ -9,7 +9,9 @@ namespace lumigrafo::cassa {
 
 namespace {
 
-constexpr int kFatto = 0, kFallito = 1, kChiamataErrata = 2;
+using strumenti::kChiamataErrata;
+using strumenti::kFallito;
+using strumenti::kFatto;
 
 constexpr const char* kAiuto = R"(Uso: lumigrafo-cassa --sigla LETTERA [--server HOST] [--ogni SECONDI]
 

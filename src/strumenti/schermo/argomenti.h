@@ -1,7 +1,8 @@
 #pragma once
 
+#include "strumenti/chiamata.h"
+
 #include <cstdint>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -15,10 +16,7 @@ struct Argomenti {
     std::string indirizzo;      ///< where to listen; empty: at all addresses of the machine
 };
 
-/// A call that can't be understood; the text tells the user why.
-struct ErroreDiUso : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
+using strumenti::ErroreDiUso;
 
 /// The words behind the program's name. Throws ErroreDiUso.
 [[nodiscard]] Argomenti leggiArgomenti(const std::vector<std::string>& parole);

@@ -12,7 +12,9 @@ namespace lumigrafo::schermo {
 
 namespace {
 
-constexpr int kFatto = 0, kFallito = 1, kChiamataErrata = 2;
+using strumenti::kChiamataErrata;
+using strumenti::kFallito;
+using strumenti::kFatto;
 
 /// The addresses by which other machines find this one.
 QString indirizzi() {
