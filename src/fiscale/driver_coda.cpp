@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <sstream>
 
 namespace lumigrafo {
 
@@ -46,6 +47,23 @@ DriverCoda::Lavorazione DriverCoda::lavorazione(const std::string& lavoro) {
                                                                                   : Lavorazione::InCoda;
 }
 
+/// A job that was cancelled, or given up by the print system, leaves the queue as a printed one does.
+EsitoStampa DriverCoda::comeUscito(const std::string& lavoro) {
+    // A job's name at the beginning of a line, and below it, behind tabs, what became of it. Of a long
+    // history only that piece comes here.
+    const auto storia = chiama(
+        {"sh", "-c", R"(lpstat -l -W completed -o "$1" | grep -A 3 "^$2 ")", "sh", i_.indirizzo(), lavoro});
+    if (!riuscito(storia))
+        return {Fine::Incerto, "Il sistema di stampa non dice come è finita la stampa."};
+    std::istringstream righe(storia->uscita);
+    std::string riga;
+    std::getline(righe, riga);
+    while (std::getline(righe, riga) && riga.starts_with('\t'))
+        if (riga.find("job-completed-successfully") != std::string::npos)
+            return {Fine::Fatto, ""};
+    return {Fine::Incerto, "La coda di stampa " + i_.indirizzo() + " ha abbandonato lo scontrino."};
+}
+
 EsitoStampa DriverCoda::stampa(const Lavoro& lavoro) {
     const auto fine = chiama({"lp", "-d", i_.indirizzo(), "-o", "raw"}, escpos::scontrino(lavoro.modulo, i_));
     if (!fine)
@@ -60,7 +78,7 @@ EsitoStampa DriverCoda::stampa(const Lavoro& lavoro) {
     const auto scadenza = std::chrono::steady_clock::now() + std::chrono::seconds(i_.limite);
     do {
         if (lavorazione(nome) == Lavorazione::Uscito)
-            return {Fine::Fatto, ""};
+            return comeUscito(nome);
         orologio_.attendi(kPasso);
     } while (std::chrono::steady_clock::now() < scadenza);
     static_cast<void>(chiama({"cancel", nome}));

@@ -8,7 +8,8 @@
 namespace lumigrafo {
 
 /// An ESC/POS printer behind a raw queue of the print system. The receipt is done when its job has left the
-/// queue; a job that still stands there at the limit is taken out of it.
+/// queue and the print system says that it was printed; a job that still stands there at the limit is taken
+/// out of it.
 class DriverCoda final : public Driver {
 public:
     DriverCoda(Esecutore& esecutore, Orologio& orologio, const ImpostazioniFiscali& impostazioni)
@@ -22,6 +23,7 @@ private:
     [[nodiscard]] std::optional<FineProgramma> chiama(std::vector<std::string> parole,
                                                       std::string_view ingresso = {});
     [[nodiscard]] Lavorazione lavorazione(const std::string& lavoro);
+    [[nodiscard]] EsitoStampa comeUscito(const std::string& lavoro);
 
     Esecutore& esecutore_;
     Orologio& orologio_;

@@ -75,6 +75,8 @@ EsitoStampa DriverEscPos::stampa(const Lavoro& lavoro) {
     EsitoStampa esito = manda(*t, escpos::scontrino(lavoro.modulo, i_), tempo);
     if (esito.fine == Fine::Fatto && chiede)
         esito = attendiFine(*t, tempo);
+    // A connection closed over unread bytes is broken off: the printer might drop what it hasn't printed yet.
+    static_cast<void>(t->leggi(kArretrati, 0ms));
     if (esito.fine == Fine::Incerto && t->scrivi(escpos::kScordaTutto, kLimiteDomanda) != 0)
         static_cast<void>(t->svuota(kLimiteDomanda));
     return esito;
@@ -95,12 +97,18 @@ EsitoStampa DriverEscPos::attendiFine(Trasporto& t, const Tempo& tempo) {
         return {Fine::Incerto, "Il collegamento con la stampante si è interrotto durante la stampa."};
     const std::string byte = t.leggi(1, tempo.resto());
     if (!byte.empty())
-        return escpos::rispostaDiFine(byte[0])
-                   ? EsitoStampa{Fine::Fatto, ""}
-                   : EsitoStampa{Fine::Incerto, "La stampante ha dato una risposta incomprensibile."};
+        return fineDa(byte[0]);
     const Risposte r = interroga(t, Tempo(kChiusura));
     return {Fine::Incerto,
             r.riuscite && !r.problema.empty() ? r.problema : "La stampante non ha confermato la stampa."};
+}
+
+EsitoStampa DriverEscPos::fineDa(char byte) {
+    if (!escpos::rispostaDiFine(byte))
+        return {Fine::Incerto, "La stampante ha dato una risposta incomprensibile."};
+    if (escpos::fineSenzaCarta(byte)) // some run on without paper: the last lines may be missing
+        return {Fine::Incerto, "La carta della stampante è finita."};
+    return {Fine::Fatto, ""};
 }
 
 StatoStampante DriverEscPos::stato() {

@@ -36,6 +36,8 @@ private:
     [[nodiscard]] static Risposte interroga(Trasporto& t, const Tempo& tempo);
     [[nodiscard]] static EsitoStampa manda(Trasporto& t, const std::string& byte, const Tempo& tempo);
     [[nodiscard]] static EsitoStampa attendiFine(Trasporto& t, const Tempo& tempo);
+    /// What the answer behind the receipt says.
+    [[nodiscard]] static EsitoStampa fineDa(char byte);
 
     Apri apri_;
     ImpostazioniFiscali i_;

@@ -15,7 +15,8 @@ struct PostoArchivio {
 };
 
 /// An external program that prints: one JSON object to its standard input, one from its standard output. Its
-/// word counts only where it ended by itself with code 0; one that is still running at the limit is killed.
+/// word that it is done counts only where it ended by itself with code 0; one that is still running at the
+/// limit is killed.
 class DriverProgramma final : public Driver {
 public:
     DriverProgramma(Esecutore& esecutore, const ImpostazioniFiscali& impostazioni, PostoArchivio archivio)

@@ -91,6 +91,10 @@ bool rispostaDiFine(char byte) {
     return !bit(byte, 4) && !bit(byte, 7);
 }
 
+bool fineSenzaCarta(char byte) {
+    return bit(byte, 2) || bit(byte, 3);
+}
+
 std::string impedimento(int quale, char byte) {
     struct Causa {
         int quale, bit;

@@ -31,5 +31,7 @@ inline constexpr std::string_view kScordaTutto{"\x10\x14\x08\x01\x03\x14\x01\x06
 [[nodiscard]] bool cartaInEsaurimento(char byte);
 /// True for a byte that can be the answer to kChiediFine.
 [[nodiscard]] bool rispostaDiFine(char byte);
+/// True where that answer says that there is no paper.
+[[nodiscard]] bool fineSenzaCarta(char byte);
 
 } // namespace lumigrafo::escpos

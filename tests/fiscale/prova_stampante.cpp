@@ -28,6 +28,7 @@ TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
         {Umore::Insensata, Fine::NonStampato, "La stampante ha dato una risposta incomprensibile.", false},
         {Umore::ChiudeAMeta, Fine::Incerto, "stampa", true},
         {Umore::CartaAMeta, Fine::Incerto, "La carta della stampante è finita.", true},
+        {Umore::CartaAllaFine, Fine::Incerto, "La carta della stampante è finita.", true},
         {Umore::FineInsensata, Fine::Incerto, "La stampante ha dato una risposta incomprensibile.", true},
     };
     for (const Caso& caso : casi) {
@@ -88,7 +89,7 @@ TEST(EscPos, EuroAndAccentsInBothPages) {
     EXPECT_EQ(escpos::codificato("“l’orto” – 🍕", false), "\"l'orto\" - ?");
 }
 
-TEST(Coda, AJobThatStaysIsTakenOut) {
+TEST(Coda, OnlyAPrintedJobIsDoneAndOneThatStaysIsTakenOut) {
     BancoFiscale b;
     b.scontrinoSette();
     b.impostazioni.driver = TipoDriver::Coda;
@@ -98,8 +99,17 @@ TEST(Coda, AJobThatStaysIsTakenOut) {
     const std::string percorsoVecchio = std::getenv("PATH");
     ::setenv("PATH", (qui + ":" + percorsoVecchio).c_str(), 1);
     b.programma("lp", "cat > " + qui + "/grezzo; echo \"request id is $2-5 (1 file(s))\"");
-    b.programma("lpstat", "true"); // an empty queue
-    EXPECT_TRUE(b.emetti(7));
+    const auto uscito = [&](const std::string& come) { // an empty queue, and its history
+        b.programma("lpstat",
+                    "case \"$*\" in *' completed '*) printf 'cassa-55 x\\n\\tAlerts: job-canceled\\n" + come +
+                        "cassa-4 x\\n\\tAlerts: job-completed-successfully\\n';; esac");
+        return b.emetti(7);
+    };
+    EXPECT_TRUE(uscito("cassa-5 x\\n\\tStatus: \\n\\tAlerts: job-completed-successfully\\n"));
+    for (const char* come : {"cassa-5 x\\n\\tAlerts: aborted-by-system\\n", ""}) {
+        EXPECT_FALSE(uscito(come));
+        EXPECT_EQ(b.registro().at(0).fine, Fine::Incerto);
+    }
     EXPECT_THAT(leggiFile(b.cartella.percorso() / "grezzo").value_or(""), HasSubstr("TOTALE"));
     b.programma("lpstat", "echo 'cassa-55 operatore 1024'; echo 'cassa-5 operatore 1024'");
     b.programma("cancel", "echo \"$1\" > " + qui + "/tolto");

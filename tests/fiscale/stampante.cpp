@@ -95,7 +95,9 @@ bool Stampante::rispondi(int presa, std::string& coda) {
                          : aperta   ? kCoperchio
                                     : kBene},
         {"\x10\x04\x04", senzaCarta ? kSensoreCarta : kBene},
-        {"\x1Dr\x01", umore_ == Umore::FineInsensata ? '\xFF' : '\0'}};
+        {"\x1Dr\x01", umore_ == Umore::FineInsensata   ? '\xFF'
+                      : umore_ == Umore::CartaAllaFine ? '\x0F'
+                                                       : '\0'}};
     for (const auto& [domanda, risposta] : risposte) {
         const auto dove = coda.find(domanda);
         if (dove == coda.npos)

@@ -17,6 +17,7 @@ enum class Umore {
     Insensata,     ///< answers with letters
     ChiudeAMeta,   ///< breaks off in the middle of the receipt
     CartaAMeta,    ///< runs out of paper in the middle of the receipt
+    CartaAllaFine, ///< prints on without paper and says so behind the receipt
     FineInsensata, ///< answers its state well and the end with rubbish
 };
 
