@@ -14,6 +14,8 @@ const QColor kFilo(255, 255, 255, 40);
 } // namespace
 
 void RiquadroWidget::mostra(const Controllo& c, const Resa& resa) {
+    // What lies behind a panel over the whole window needn't be painted.
+    setAttribute(Qt::WA_OpaquePaintEvent, c.BackColor() && copreIlPadre());
     if (sfondo_ == c.BackColor() && raggio_ == resa.raggio)
         return;
     sfondo_ = c.BackColor();

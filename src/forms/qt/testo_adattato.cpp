@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr int kPixelMinimi = 6;
 constexpr int kParoleDiFrase = 3;
-constexpr double kPassoRighe = 0.94;
 
 QFont conPixel(QFont f, int pixel) {
     f.setPixelSize(std::max(pixel, kPixelMinimi));
@@ -41,29 +41,38 @@ QFont inUnaRiga(const QString& testo, const QFont& carattere, QSize area) {
     return f;
 }
 
-/// The share of its size beyond which a text surely doesn't fit, however its lines break: a long one is
-/// measured a few times, not at every size.
-double quotaMassima(const QString& testo, const QFont& carattere, QSize area) {
+/// The share of its size beyond which a text surely doesn't fit, however its lines break.
+double quotaMassima(const QString& testo, const QFontMetricsF& m, double lunghezza, QSize area) {
     constexpr double kAgio = 1.1;
-    const QFontMetricsF m(carattere);
     const auto righe = static_cast<double>(testo.count(QLatin1Char('\n')) + 1);
-    const double superficie = std::max(1.0, m.horizontalAdvance(testo) * m.height());
+    const double superficie = std::max(1.0, lunghezza * m.height());
     return kAgio * std::min(std::sqrt(area.width() * static_cast<double>(area.height()) / superficie),
                             area.height() / (righe * m.height()));
 }
 
-QFont inPiuRighe(const QString& testo, const QFont& carattere, QSize area, int modo) {
-    QFont f = carattere;
-    if (const double quota = quotaMassima(testo, carattere, area); quota < 1)
-        f = conPixel(f, static_cast<int>(f.pixelSize() * quota));
-    const QRectF larga(0, 0, area.width(), 1e6);
-    for (;;) {
-        const QRectF occupato = QFontMetricsF(f).boundingRect(larga, modo, testo);
-        if (f.pixelSize() <= kPixelMinimi ||
-            (occupato.height() <= area.height() && occupato.width() <= area.width()))
-            return f;
-        f = conPixel(f, std::min(f.pixelSize() - 1, static_cast<int>(f.pixelSize() * kPassoRighe)));
+/// Breaks a text into lines of that width; the room that they take. The layout keeps the lines for drawing.
+QSizeF spezza(QTextLayout& testo, const QFont& carattere, int larghezza) {
+    const double interlinea = QFontMetricsF(carattere).leading();
+    testo.setFont(carattere);
+    testo.beginLayout();
+    double alta = -interlinea, larga = 0;
+    for (QTextLine riga = testo.createLine(); riga.isValid(); riga = testo.createLine()) {
+        riga.setLineWidth(larghezza);
+        alta = std::ceil(alta + interlinea);
+        riga.setPosition({0, alta});
+        alta += riga.height();
+        larga = std::max(larga, riga.naturalTextWidth());
     }
+    testo.endLayout();
+    return {larga, alta};
+}
+
+/// The next smaller size to try, from the room that a text takes at this one: its lines, and how many they
+/// are, both go with the size, so that a long text is measured two or three times, not at every size.
+int pixelMinori(int pixel, const QSizeF& occupato, QSize area) {
+    const double quota = std::min(std::sqrt(area.height() / std::max(1.0, occupato.height())),
+                                  area.width() / std::max(1.0, occupato.width()));
+    return std::min(pixel - 1, static_cast<int>(pixel * quota));
 }
 
 } // namespace
@@ -80,7 +89,7 @@ bool TestoAdattato::imposta(const QString& testo, const QFont& carattere, Alline
     return true;
 }
 
-int TestoAdattato::orizzontale() const {
+Qt::Alignment TestoAdattato::orizzontale() const {
     switch (allineamento_) {
     case Allineamento::Centro:
         return Qt::AlignHCenter;
@@ -98,11 +107,34 @@ void TestoAdattato::adatta(QSize area) const {
     misurata_ = area;
     const QFontMetricsF m(carattere_);
     const auto parole = testo_.split(QLatin1Char(' '), Qt::SkipEmptyParts).size();
-    const bool frase = parole >= kParoleDiFrase && m.horizontalAdvance(testo_) > area.width() &&
-                       2 * m.height() <= area.height();
-    righe_ = frase || testo_.contains(QLatin1Char('\n'));
-    adattato_ = righe_ ? inPiuRighe(testo_, carattere_, area, orizzontale() | Qt::TextWordWrap)
-                       : inUnaRiga(testo_, carattere_, area);
+    const double lunghezza = m.horizontalAdvance(testo_);
+    const bool frase =
+        parole >= kParoleDiFrase && lunghezza > area.width() && 2 * m.height() <= area.height();
+    righe_.reset();
+    if (frase || testo_.contains(QLatin1Char('\n')))
+        adattaInRighe(area, lunghezza);
+    else
+        adattato_ = inUnaRiga(testo_, carattere_, area);
+}
+
+void TestoAdattato::adattaInRighe(QSize area, double lunghezza) const {
+    QString testo = testo_;
+    righe_ = std::make_unique<QTextLayout>(testo.replace(QLatin1Char('\n'), QChar::LineSeparator));
+    QTextOption opzioni(orizzontale());
+    opzioni.setWrapMode(QTextOption::WordWrap);
+    righe_->setTextOption(opzioni);
+    righe_->setCacheEnabled(true); // what was shaped for measuring is drawn
+    adattato_ = carattere_;
+    if (const double quota = quotaMassima(testo_, QFontMetricsF(carattere_), lunghezza, area); quota < 1)
+        adattato_ = conPixel(carattere_, static_cast<int>(carattere_.pixelSize() * quota));
+    for (;;) {
+        const QSizeF occupato = spezza(*righe_, adattato_, area.width());
+        altezza_ = occupato.height();
+        if (adattato_.pixelSize() <= kPixelMinimi ||
+            (occupato.height() <= area.height() && occupato.width() <= area.width()))
+            return;
+        adattato_ = conPixel(carattere_, pixelMinori(adattato_.pixelSize(), occupato, area));
+    }
 }
 
 int TestoAdattato::pixelIn(QSize area) const {
@@ -117,7 +149,8 @@ void TestoAdattato::disegna(QPainter& pennello, const QRect& area, const QColor&
     pennello.setFont(adattato_);
     pennello.setPen(colore);
     if (righe_) {
-        pennello.drawText(area, orizzontale() | Qt::AlignVCenter | Qt::TextWordWrap, testo_);
+        righe_->draw(&pennello,
+                     QPointF(area.left(), area.top() + std::round((area.height() - altezza_) / 2)));
         return;
     }
     // Capitals and figures are centred, whatever their neighbours hang below the line; then the ink is kept

@@ -6,6 +6,9 @@
 #include <QFont>
 #include <QSize>
 #include <QString>
+#include <QTextLayout>
+
+#include <memory>
 
 class QPainter;
 
@@ -29,7 +32,9 @@ public:
 
 private:
     void adatta(QSize area) const;
-    [[nodiscard]] int orizzontale() const;
+    /// `lunghezza`: what the text takes in one line at its own size, pixels.
+    void adattaInRighe(QSize area, double lunghezza) const;
+    [[nodiscard]] Qt::Alignment orizzontale() const;
     void sottolinea(QPainter& pennello, QPointF inizio) const;
 
     QString testo_;
@@ -39,7 +44,8 @@ private:
     // Worked out at the first painting, since a label may change more often than it is seen.
     mutable QSize misurata_;
     mutable QFont adattato_;
-    mutable bool righe_ = false;
+    mutable std::unique_ptr<QTextLayout> righe_; ///< null for a text in one line
+    mutable double altezza_ = 0;                 ///< of those lines
 };
 
 } // namespace lumigrafo
