@@ -7,46 +7,80 @@ namespace lumigrafo {
 
 namespace {
 
-constexpr Carattere kTitolo{"Arial", 18, true};
+constexpr Twip kLarghezza = 15120, kAltezza = 10920; ///< all of the smallest screen
+constexpr Twip kTastiera = 6660;                     ///< from here down the keyboard
 constexpr Carattere kTesto{"Arial", 13};
 constexpr Carattere kGrassetto{"Arial", 13, true};
 constexpr Carattere kMinuto{"Arial", 11};
 constexpr Carattere kSegno{"Arial", 20, true};
+constexpr Carattere kTasti{"Arial", 15};
 constexpr Colore kInchiostro = rgb(31, 41, 51);
 constexpr Colore kGrigio = rgb(96, 110, 124);
 constexpr Colore kCarta = rgb(255, 255, 255);
 constexpr auto kCentro = Allineamento::Centro;
 
+constexpr Descrizione bottone(std::string_view nome, int indice, Rettangolo rett, std::string_view caption,
+                              Carattere carattere = kGrassetto) {
+    return {.tipo = Tipo::Bottone,
+            .nome = nome,
+            .indice = indice,
+            .rett = rett,
+            .carattere = carattere,
+            .allineamento = kCentro,
+            .caption = caption};
+}
+
+constexpr Descrizione etichetta(std::string_view nome, Rettangolo rett, std::string_view caption) {
+    return {.tipo = Tipo::Etichetta,
+            .nome = nome,
+            .rett = rett,
+            .carattere = kGrassetto,
+            .testo = kInchiostro,
+            .caption = caption};
+}
+
+/// One line of the receipt's head or foot.
+constexpr Descrizione riga(std::string_view nome, int indice, Twip left, std::string_view accessibile) {
+    return {.tipo = Tipo::Casella,
+            .nome = nome,
+            .indice = indice,
+            .rett = {left, Twip{2580} + Twip{780} * indice, 7110, 720},
+            .carattere = kTesto,
+            .allineamento = kCentro,
+            .testo = kInchiostro,
+            .sfondo = kCarta,
+            .nomeAccessibile = accessibile};
+}
+
 // clang-format off
-constexpr std::array<Descrizione, 28> kControlli{{
-    {.tipo = Tipo::Immagine, .nome = "imgScontrino", .padre = "", .rett = {300, 150, 780, 780}, .figura = "scontrino"},
-    {.tipo = Tipo::Etichetta, .nome = "lblTitolo", .padre = "", .rett = {1230, 150, 9000, 780}, .carattere = kTitolo, .testo = kInchiostro, .caption = "Impostazioni fiscali"},
-    {.tipo = Tipo::Bottone, .nome = "cmdDriver", .indice = 0, .padre = "", .rett = {300, 1080, 2640, 840}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "File di testo"},
-    {.tipo = Tipo::Bottone, .nome = "cmdDriver", .indice = 1, .padre = "", .rett = {3060, 1080, 2640, 840}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Rete"},
-    {.tipo = Tipo::Bottone, .nome = "cmdDriver", .indice = 2, .padre = "", .rett = {5820, 1080, 2640, 840}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Dispositivo"},
-    {.tipo = Tipo::Bottone, .nome = "cmdDriver", .indice = 3, .padre = "", .rett = {8580, 1080, 2640, 840}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Coda di stampa"},
-    {.tipo = Tipo::Bottone, .nome = "cmdDriver", .indice = 4, .padre = "", .rett = {11340, 1080, 2760, 840}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Programma"},
-    {.tipo = Tipo::Etichetta, .nome = "lblIndirizzo", .padre = "", .rett = {300, 2100, 1800, 720}, .carattere = kGrassetto, .testo = kInchiostro},
-    {.tipo = Tipo::Casella, .nome = "txtIndirizzo", .padre = "", .rett = {2100, 2100, 7800, 720}, .carattere = kTesto, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Indirizzo"},
-    {.tipo = Tipo::Bottone, .nome = "cmdStato", .padre = "", .rett = {10080, 2100, 4020, 720}, .carattere = kTesto, .allineamento = kCentro},
-    {.tipo = Tipo::Etichetta, .nome = "lblAiuto", .padre = "", .rett = {2100, 2850, 12000, 390}, .carattere = kMinuto, .testo = kGrigio},
-    {.tipo = Tipo::Etichetta, .nome = "lblRiga", .padre = "", .rett = {300, 3420, 3600, 720}, .carattere = kGrassetto, .testo = kInchiostro, .caption = "Caratteri per riga"},
-    {.tipo = Tipo::Bottone, .nome = "cmdMeno", .padre = "", .rett = {3960, 3420, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "−", .nomeAccessibile = "Un carattere in meno"},
-    {.tipo = Tipo::Etichetta, .nome = "lblCaratteri", .padre = "", .rett = {5160, 3420, 1200, 720}, .carattere = kTitolo, .allineamento = kCentro, .testo = kInchiostro},
-    {.tipo = Tipo::Bottone, .nome = "cmdPiu", .padre = "", .rett = {6360, 3420, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "+", .nomeAccessibile = "Un carattere in più"},
-    {.tipo = Tipo::Etichetta, .nome = "lblIntestazione", .padre = "", .rett = {300, 4350, 6720, 420}, .carattere = kGrassetto, .testo = kInchiostro, .caption = "Intestazione dello scontrino"},
-    {.tipo = Tipo::Casella, .nome = "txtIntestazione", .indice = 0, .padre = "", .rett = {300, 4830, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Intestazione, riga 1"},
-    {.tipo = Tipo::Casella, .nome = "txtIntestazione", .indice = 1, .padre = "", .rett = {300, 5640, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Intestazione, riga 2"},
-    {.tipo = Tipo::Casella, .nome = "txtIntestazione", .indice = 2, .padre = "", .rett = {300, 6450, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Intestazione, riga 3"},
-    {.tipo = Tipo::Casella, .nome = "txtIntestazione", .indice = 3, .padre = "", .rett = {300, 7260, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Intestazione, riga 4"},
-    {.tipo = Tipo::Etichetta, .nome = "lblPiede", .padre = "", .rett = {7380, 4350, 6720, 420}, .carattere = kGrassetto, .testo = kInchiostro, .caption = "Piede dello scontrino"},
-    {.tipo = Tipo::Casella, .nome = "txtPiede", .indice = 0, .padre = "", .rett = {7380, 4830, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Piede, riga 1"},
-    {.tipo = Tipo::Casella, .nome = "txtPiede", .indice = 1, .padre = "", .rett = {7380, 5640, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Piede, riga 2"},
-    {.tipo = Tipo::Casella, .nome = "txtPiede", .indice = 2, .padre = "", .rett = {7380, 6450, 6720, 720}, .carattere = kTesto, .allineamento = kCentro, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Piede, riga 3"},
-    {.tipo = Tipo::Linea, .nome = "linea", .padre = "", .rett = {300, 8220, 13800, 15}, .testo = rgb(208, 216, 224)},
-    {.tipo = Tipo::Bottone, .nome = "cmdProva", .padre = "", .rett = {300, 8460, 3600, 900}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Prova di stampa"},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .padre = "", .rett = {6720, 8460, 3600, 900}, .carattere = kGrassetto, .allineamento = kCentro, .caption = "Annulla"},
-    {.tipo = Tipo::Bottone, .nome = "cmdSalva", .padre = "", .rett = {10500, 8460, 3600, 900}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kCarta, .sfondo = rgb(47, 109, 168), .caption = "Salva"},
+constexpr std::array<Descrizione, 27> kControlli{{
+    bottone("cmdDriver", 0, {300, 120, 2784, 750}, "File di testo"),
+    bottone("cmdDriver", 1, {3234, 120, 2784, 750}, "Rete"),
+    bottone("cmdDriver", 2, {6168, 120, 2784, 750}, "Dispositivo"),
+    bottone("cmdDriver", 3, {9102, 120, 2784, 750}, "Coda di stampa"),
+    bottone("cmdDriver", 4, {12036, 120, 2784, 750}, "Programma"),
+    etichetta("lblIndirizzo", {300, 990, 1800, 735}, ""),
+    {.tipo = Tipo::Casella, .nome = "txtIndirizzo", .rett = {2100, 990, 8550, 735}, .carattere = kTesto, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Indirizzo"},
+    bottone("cmdStato", kSenzaIndice, {10800, 990, 4020, 735}, "", kTesto),
+    {.tipo = Tipo::Etichetta, .nome = "lblAiuto", .rett = {2100, 1740, 12720, 345}, .carattere = kMinuto, .testo = kGrigio},
+    etichetta("lblIntestazione", {300, 2160, 7110, 405}, "Intestazione dello scontrino"),
+    riga("txtIntestazione", 0, 300, "Intestazione, riga 1"),
+    riga("txtIntestazione", 1, 300, "Intestazione, riga 2"),
+    riga("txtIntestazione", 2, 300, "Intestazione, riga 3"),
+    riga("txtIntestazione", 3, 300, "Intestazione, riga 4"),
+    etichetta("lblPiede", {7710, 2160, 7110, 405}, "Piede dello scontrino"),
+    riga("txtPiede", 0, 7710, "Piede, riga 1"),
+    riga("txtPiede", 1, 7710, "Piede, riga 2"),
+    riga("txtPiede", 2, 7710, "Piede, riga 3"),
+    etichetta("lblRiga", {7710, 4920, 3300, 720}, "Caratteri per riga"),
+    {.tipo = Tipo::Bottone, .nome = "cmdMeno", .rett = {11220, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "−", .nomeAccessibile = "Un carattere in meno"},
+    {.tipo = Tipo::Etichetta, .nome = "lblCaratteri", .rett = {12420, 4920, 1200, 720}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kInchiostro},
+    {.tipo = Tipo::Bottone, .nome = "cmdPiu", .rett = {13620, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "+", .nomeAccessibile = "Un carattere in più"},
+    bottone("cmdProva", kSenzaIndice, {300, 5775, 3600, 750}, "Prova di stampa"),
+    bottone("cmdAnnulla", kSenzaIndice, {7710, 5775, 3480, 750}, "Annulla"),
+    {.tipo = Tipo::Bottone, .nome = "cmdSalva", .rett = {11340, 5775, 3480, 750}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kCarta, .sfondo = rgb(47, 109, 168), .caption = "Salva"},
+    {.tipo = Tipo::Riquadro, .nome = "picTastiera", .rett = {0, kTastiera, kLarghezza, kAltezza - kTastiera}, .sfondo = rgb(217, 224, 230)},
+    {.tipo = Tipo::Tastiera, .nome = "tastiera", .padre = "picTastiera", .rett = {300, 60, 14520, kAltezza - kTastiera - 120}, .carattere = kTasti, .nomeAccessibile = "Tastiera"},
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));
@@ -54,6 +88,6 @@ static_assert(layoutValido(kControlli));
 } // namespace
 
 const Layout kLayoutConfigurazioneFiscale{
-    "frmConfiguraFiscale", "Impostazioni fiscali", 14400, 9570, rgb(236, 240, 244), kControlli};
+    "frmConfiguraFiscale", "Impostazioni fiscali", kLarghezza, kAltezza, rgb(236, 240, 244), kControlli};
 
 } // namespace lumigrafo

@@ -2,6 +2,7 @@
 #include "fiscale/configurazione.h"
 #include "fiscale/qt/finestre_componente_qt.h"
 #include "fiscale/utilita.h"
+#include "forms/qt/tastiera_widget.h"
 #include "tests/fiscale/banco.h"
 
 #include <QApplication>
@@ -42,6 +43,15 @@ TEST(FinestreFiscali, TheSettingsAreTypedAndSaved) {
         tocca(w, "cmdDriver(1)");
         QTest::keyClicks(w.findChild<QWidget*>(QStringLiteral("txtIndirizzo")), QStringLiteral("10.0.0.7"));
         QTest::keyClicks(w.findChild<QWidget*>(QStringLiteral("txtPiede(0)")), QStringLiteral("Grazie"));
+        auto* tastiera = dynamic_cast<TastieraWidget*>(w.findChild<QWidget*>(QStringLiteral("tastiera")));
+        ASSERT_TRUE(tastiera);
+        tocca(w, "txtIntestazione(3)");
+        for (const char* tasto : {"è", "5"}) {
+            const QRect posto = tastiera->rettangolo(QString::fromUtf8(tasto));
+            EXPECT_GE(posto.height(), 48);
+            QTest::mouseClick(tastiera, Qt::LeftButton, {}, posto.center());
+        }
+        EXPECT_LE(w.height(), 728); // of 768, with the frame
         tocca(w, "cmdSalva");
     });
     configura->Mostra(true);
@@ -49,6 +59,7 @@ TEST(FinestreFiscali, TheSettingsAreTypedAndSaved) {
     EXPECT_EQ(lette.driver, TipoDriver::Rete);
     EXPECT_EQ(lette.indirizzo(), "10.0.0.7");
     EXPECT_EQ(lette.piede[0], "Grazie");
+    EXPECT_EQ(lette.intestazione[3], "è5");
 }
 
 TEST(FinestreFiscali, TheUtilitiesShowTheRecordAndAScannerPressesNothing) {
