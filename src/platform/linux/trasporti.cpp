@@ -68,7 +68,7 @@ public:
         int inCammino = 0;
         while (inViaggio_ != 0 && ::ioctl(f_.fd(), inViaggio_, &inCammino) == 0 && inCammino > 0) {
             const int resto = restano(fine);
-            if (resto == 0)
+            if (resto == 0 || caduto()) // what a broken connection hasn't sent stays on its way for ever
                 return false;
             ::poll(nullptr, 0, std::min(kPassoMs, resto));
         }
@@ -76,7 +76,7 @@ public:
     }
 
 private:
-    /// A connection that the other side broke off counts nothing on its way either.
+    /// The other side broke the connection off; said once.
     [[nodiscard]] bool caduto() const {
         int errore = 0;
         socklen_t lunghezza = sizeof errore;
