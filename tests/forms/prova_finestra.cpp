@@ -290,6 +290,10 @@ TEST(TestoAdattato, FrasiVannoACapoNumeriNo) {
         t.imposta(QString::fromUtf8(testo), grande, Allineamento::Centro);
         EXPECT_EQ(t.pixelIn(area) == 40, intero) << testo << " " << area.width() << "x" << area.height();
     }
+    // Of thousands of characters without a blank a single line could not be read.
+    TestoAdattato lungo;
+    lungo.imposta(QString(5000, QLatin1Char('\\')), grande, Allineamento::Centro);
+    EXPECT_GE(lungo.pixelIn({1000, 700}), 20);
 }
 
 TEST_F(FinestraProva, UnaFiguraCheNonCeEUnGuasto) {

@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kPixelMinimi = 6;
 constexpr int kParoleDiFrase = 3;
+constexpr int kRigheSmisurate = 10;
 
 QFont conPixel(QFont f, int pixel) {
     f.setPixelSize(std::max(pixel, kPixelMinimi));
@@ -108,20 +109,22 @@ void TestoAdattato::adatta(QSize area) const {
     const QFontMetricsF m(carattere_);
     const auto parole = testo_.split(QLatin1Char(' '), Qt::SkipEmptyParts).size();
     const double lunghezza = m.horizontalAdvance(testo_);
-    const bool frase =
-        parole >= kParoleDiFrase && lunghezza > area.width() && 2 * m.height() <= area.height();
+    const bool spazio = 2 * m.height() <= area.height();
+    const bool frase = parole >= kParoleDiFrase && lunghezza > area.width() && spazio;
+    const bool smisurato = lunghezza > kRigheSmisurate * area.width() && spazio;
     righe_.reset();
-    if (frase || testo_.contains(QLatin1Char('\n')))
-        adattaInRighe(area, lunghezza);
+    if (frase || smisurato || testo_.contains(QLatin1Char('\n')))
+        adattaInRighe(area, lunghezza,
+                      smisurato ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WordWrap);
     else
         adattato_ = inUnaRiga(testo_, carattere_, area);
 }
 
-void TestoAdattato::adattaInRighe(QSize area, double lunghezza) const {
+void TestoAdattato::adattaInRighe(QSize area, double lunghezza, QTextOption::WrapMode modo) const {
     QString testo = testo_;
     righe_ = std::make_unique<QTextLayout>(testo.replace(QLatin1Char('\n'), QChar::LineSeparator));
     QTextOption opzioni(orizzontale());
-    opzioni.setWrapMode(QTextOption::WordWrap);
+    opzioni.setWrapMode(modo);
     righe_->setTextOption(opzioni);
     righe_->setCacheEnabled(true); // what was shaped for measuring is drawn
     adattato_ = carattere_;

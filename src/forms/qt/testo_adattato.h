@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QString>
 #include <QTextLayout>
+#include <QTextOption>
 
 #include <memory>
 
@@ -16,8 +17,8 @@ namespace lumigrafo {
 
 /// A text that is always whole in its area. It stands at the middle of the height, at its own size where it
 /// fits, and smaller where it doesn't. A number or a title stays in one line; a sentence (three words or
-/// more) breaks into lines where the area has room for two of them; line ends of the text itself always
-/// break.
+/// more) breaks into lines where the area has room for two of them, and so does a text many times as wide as
+/// the area, within its words too where they are as long; line ends of the text itself always break.
 class TestoAdattato {
 public:
     /// True if anything differs from before.
@@ -33,7 +34,7 @@ public:
 private:
     void adatta(QSize area) const;
     /// `lunghezza`: what the text takes in one line at its own size, pixels.
-    void adattaInRighe(QSize area, double lunghezza) const;
+    void adattaInRighe(QSize area, double lunghezza, QTextOption::WrapMode modo) const;
     [[nodiscard]] Qt::Alignment orizzontale() const;
     void sottolinea(QPainter& pennello, QPointF inizio) const;
 
