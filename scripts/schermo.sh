@@ -48,8 +48,8 @@ finestra_gestore() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id';
 # finestra PID TITLE: the id of the visible window of a process that bears this title.
 finestra() { xdotool search --all --onlyvisible --pid "$1" --name "^$2\$" | tail -n 1; }
 
-# The console's menu bar, and its measures by design, in which the grids lie (see layout_frmGestione.cpp).
-readonly alta_menu=30 disegno_larga=18960 disegno_alta=10665
+# The console's measures by design, in which the grids lie (see layout_frmGestione.cpp).
+readonly disegno_larga=18960 disegno_alta=10665
 readonly griglia_alto=1020 griglia_larga=5835 riga_alta=800
 readonly griglie_sinistra=(30 6015 12015)
 
@@ -57,11 +57,15 @@ readonly griglie_sinistra=(30 6015 12015)
 clicca_ordine() {
   local X Y WIDTH HEIGHT
   eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT)=[0-9-]+$')"
-  local dentro=$((HEIGHT - alta_menu))
+  # The menu bar: 49 pixels on the smallest screen, and in proportion on a larger one.
+  local menu=$((49 * WIDTH / 1024))
+  [ $menu -le $((49 * HEIGHT / 768)) ] || menu=$((49 * HEIGHT / 768))
+  [ $menu -ge 49 ] || menu=49
+  local dentro=$((HEIGHT - menu))
   local riga=$((riga_alta * dentro / disegno_alta))
   [ $riga -ge 48 ] || riga=48 # a finger's breadth: no row is lower
   local x=$((X + (griglie_sinistra[$2] + griglia_larga * (2 * $4 + 1) / 6) * WIDTH / disegno_larga))
-  local y=$((Y + alta_menu + griglia_alto * dentro / disegno_alta + riga * $3 + riga / 2))
+  local y=$((Y + menu + griglia_alto * dentro / disegno_alta + riga * $3 + riga / 2))
   xdotool mousemove "$x" "$y" click 1
 }
 

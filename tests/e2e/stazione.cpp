@@ -40,7 +40,11 @@ Rettangolo assoluto(const Descrizione& d) {
 }
 
 /// Of the menu bar, about: cells and buttons are far larger than what it may be off.
-constexpr int kAltezzaMenu = 30;
+int altezzaMenu(const RettangoloPixel& console) {
+    constexpr double kMinima = 49;
+    return static_cast<int>(kMinima *
+                            std::max(1.0, std::min(console.larghezza / 1024.0, console.altezza / 768.0)));
+}
 constexpr int kAltezzaMinimaRiga = 48;
 
 } // namespace
@@ -92,8 +96,9 @@ bool Stazione::accendi() {
 
 RettangoloPixel Stazione::contenuto() const {
     RettangoloPixel r = console.posto;
-    r.y += kAltezzaMenu;
-    r.altezza -= kAltezzaMenu;
+    const int menu = altezzaMenu(r);
+    r.y += menu;
+    r.altezza -= menu;
     return r;
 }
 

@@ -1,6 +1,7 @@
 #include "console/qt/frmGestione.h"
 
 #include "forms/qt/griglia_widget.h"
+#include "platform/qt/aspetto.h"
 
 #include <QAction>
 #include <QIcon>
@@ -15,6 +16,7 @@ frmGestione::frmGestione() {
     setWindowIcon(QIcon(QStringLiteral(":/figure/icona.svg")));
     setWindowState(Qt::WindowMaximized);
     creaMenu();
+    ingrandisciMenu();
 }
 
 frmGestione::~frmGestione() = default;
@@ -56,6 +58,24 @@ void frmGestione::collega(Console& console) {
         });
         grid.alPuntatore([this] { console_->puntatoreSuGriglia(); });
     }
+}
+
+/// The menu grows with the window, as what stands below it does.
+void frmGestione::ingrandisciMenu() {
+    constexpr double kCarattere = 16, kSopra = 13, kLato = 16;
+    const double scala = aspetto::ingrandimento(size());
+    const QString foglio =
+        QStringLiteral("QMenuBar { font-size: %1px; } QMenuBar::item { padding: %2px %3px; }")
+            .arg(qRound(kCarattere * scala))
+            .arg(qRound(kSopra * scala))
+            .arg(qRound(kLato * scala));
+    if (menuBar()->styleSheet() != foglio)
+        menuBar()->setStyleSheet(foglio);
+}
+
+void frmGestione::resizeEvent(QResizeEvent* evento) {
+    ingrandisciMenu();
+    QMainWindow::resizeEvent(evento);
 }
 
 bool frmGestione::tasto(const QKeyEvent& evento) {

@@ -29,8 +29,12 @@ public:
     void Ridisponi() override;
     void mnuFiscaleVisibile(bool visibile) override;
 
+protected:
+    void resizeEvent(QResizeEvent* evento) override;
+
 private:
     void creaMenu();
+    void ingrandisciMenu();
     QAction* voce(const char* nome, const QString& testo, std::function<void()> azione);
     [[nodiscard]] bool tasto(const QKeyEvent& evento);
 

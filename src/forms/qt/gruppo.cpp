@@ -18,9 +18,10 @@ void GruppoWidget::mostra(const Controllo& c, const Resa& resa) {
 void GruppoWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(aspetto::kBordo, 1));
+    const double filo = filoCon(raggio_);
+    p.setPen(QPen(aspetto::kBordo, filo));
     p.setBrush(sfondo_ ? aspetto::colore(*sfondo_) : aspetto::kCarta);
-    p.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), raggio_, raggio_);
+    p.drawRoundedRect(QRectF(rect()).adjusted(filo / 2, filo / 2, -filo / 2, -filo / 2), raggio_, raggio_);
     const int riga = QFontMetrics(titolo_.carattere()).height();
     titolo_.disegna(p, QRect(riga * 2 / 3, riga / 3, width() - riga, riga), aspetto::colore(tinta_));
 }

@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QKeySequence>
 
+#include <algorithm>
+
 class QWidget;
 
 namespace lumigrafo {
@@ -16,6 +18,12 @@ struct Resa {
     QFont carattere; ///< the control's, at the window's size
     int raggio;      ///< of rounded corners, pixels
 };
+
+/// Width of an edge line beside corners of that rounding: one pixel at the design, more on a large screen.
+[[nodiscard]] inline double filoCon(int raggio) {
+    constexpr double kRaggioDisegno = 7;
+    return std::max(1.0, raggio / kRaggioDisegno);
+}
 
 /// The widget side of one control.
 class Vista {

@@ -9,6 +9,8 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QProxyStyle>
+#include <QScreen>
+#include <QWidget>
 
 namespace lumigrafo::aspetto {
 
@@ -27,10 +29,8 @@ QPushButton:disabled { color: #9aa5b1; background: #eef1f4; }
 QLineEdit { border: 1px solid #becad5; border-radius: 6px;
             padding: 2px 8px; selection-background-color: #2f6da8; }
 QLineEdit:focus { border: 2px solid #2f6da8; padding: 1px 7px; }
-QMessageBox QLabel { font-size: 18px; padding: 10px; }
-QMessageBox QPushButton { font-size: 18px; min-width: 110px; min-height: 40px; }
 QMenuBar { background: #e9edf1; padding: 2px; }
-QMenuBar::item { padding: 10px 16px; border-radius: 6px; background: transparent; }
+QMenuBar::item { border-radius: 6px; background: transparent; }
 QMenuBar::item:selected { background: #d3dee8; }
 QMenu { background: #ffffff; border: 1px solid #becad5; padding: 4px; }
 QMenu::item { padding: 12px 28px; border-radius: 6px; }
@@ -66,8 +66,9 @@ QIcon freccia() {
     return figura;
 }
 
-/// Qt's plain style. Each menu bar asks it for the arrow of one that is too narrow, a picture file: to read
-/// it, all of Qt's picture formats would be loaded at the start and stay in memory.
+/// Qt's plain style, with scroll bars that grow with the monitor. Each menu bar
+/// asks it for the arrow of one that is too narrow, a picture file: to read it, all of Qt's picture formats
+/// would be loaded at the start and stay in memory.
 class Stile final : public QProxyStyle {
 public:
     Stile() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -76,6 +77,13 @@ public:
         return quale == SP_ToolBarHorizontalExtensionButton
                    ? freccia()
                    : QProxyStyle::standardIcon(quale, opzione, widget);
+    }
+    [[nodiscard]] int pixelMetric(PixelMetric quale, const QStyleOption* opzione,
+                                  const QWidget* widget) const override {
+        constexpr int kBarra = 28;
+        return quale == PM_ScrollBarExtent && widget
+                   ? qRound(kBarra * ingrandimento(widget->screen()->availableSize()))
+                   : QProxyStyle::pixelMetric(quale, opzione, widget);
     }
 };
 

@@ -3,6 +3,9 @@
 #include "platform/colore.h"
 
 #include <QColor>
+#include <QSize>
+
+#include <algorithm>
 
 class QApplication;
 
@@ -19,6 +22,13 @@ inline constexpr QColor kAccento{47, 109, 168};
 
 /// Least height of what a finger touches, device-independent pixels.
 inline constexpr int kTocco = 48;
+
+/// How much larger things are drawn in an area than on the smallest screen that the designs are meant for: 1
+/// or more.
+[[nodiscard]] inline double ingrandimento(QSize area) {
+    constexpr double kLarghezza = 1024, kAltezza = 768; // device-independent pixels
+    return std::max(1.0, std::min(area.width() / kLarghezza, area.height() / kAltezza));
+}
 
 /// Style, palette, font and style sheet of the whole program. Called once, before the first window.
 void applica(QApplication& applicazione);

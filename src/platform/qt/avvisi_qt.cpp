@@ -1,9 +1,12 @@
 #include "platform/qt/avvisi_qt.h"
 
+#include "platform/qt/aspetto.h"
+
 #include <QApplication>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 
@@ -48,11 +51,25 @@ QWidget* finestraAttiva() {
     return principale == finestre.end() ? nullptr : *principale;
 }
 
+/// Type and buttons in proportion to the monitor, as in the program's own windows.
+QString foglio(const QMessageBox& box) {
+    const QWidget* sopra = box.parentWidget();
+    const QScreen* schermo = sopra ? sopra->screen() : QApplication::primaryScreen();
+    const double scala = aspetto::ingrandimento(schermo->availableSize());
+    return QStringLiteral("QMessageBox QLabel { font-size: %1px; padding: %2px; }"
+                          "QMessageBox QPushButton { font-size: %1px; min-width: %3px; min-height: %4px; }")
+        .arg(qRound(18 * scala))
+        .arg(qRound(10 * scala))
+        .arg(qRound(110 * scala))
+        .arg(qRound(40 * scala));
+}
+
 } // namespace
 
 Risposta AvvisiQt::chiedi(const Avviso& avviso) {
     QMessageBox box(finestraAttiva());
     box.setObjectName(QStringLiteral("avviso"));
+    box.setStyleSheet(foglio(box));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(avviso.testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
     box.setWindowTitle(avviso.titolo.empty() ? QStringLiteral("Lumigrafo")

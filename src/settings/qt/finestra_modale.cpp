@@ -1,6 +1,7 @@
 #include "settings/qt/finestra_modale.h"
 
 #include "forms/qt/finestra.h"
+#include "platform/qt/aspetto.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -13,15 +14,10 @@ namespace lumigrafo {
 
 namespace {
 
-/// The smallest screen that the design sizes are meant for, device-independent pixels.
-constexpr double kSchermoLarghezza = 1024;
-constexpr double kSchermoAltezza = 768;
-
 /// In the middle of the active window's screen, as large on a large screen as on a small one.
 void disponi(Finestra& finestra, const QWidget* attiva) {
     const QRect lavoro = (attiva ? attiva->screen() : QApplication::primaryScreen())->availableGeometry();
-    const double scala =
-        std::max(1.0, std::min(lavoro.width() / kSchermoLarghezza, lavoro.height() / kSchermoAltezza));
+    const double scala = aspetto::ingrandimento(lavoro.size());
     const bool nuda = finestra.windowFlags().testFlag(Qt::FramelessWindowHint);
     const int titolo = nuda ? 0 : finestra.style()->pixelMetric(QStyle::PM_TitleBarHeight);
     const QRect libero = lavoro.adjusted(0, titolo, 0, 0);
