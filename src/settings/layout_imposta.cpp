@@ -11,7 +11,7 @@ namespace lumigrafo {
 namespace {
 
 constexpr double kLarghezza = 1008, kAltezza = 728;
-constexpr double kTastiera = 266;
+constexpr double kTastiera = 272; // five rows as high as a finger is broad
 
 /// Places are told in pixels of the smallest screen.
 constexpr Rettangolo px(double x, double y, double larghezza, double altezza) {

@@ -12,7 +12,7 @@ namespace lumigrafo {
 
 /// The panel `picTastiera` with the keyboard and the button that takes it away.
 [[nodiscard]] constexpr std::array<Descrizione, 3> pannelloTastiera(Rettangolo rett) {
-    constexpr double kMargine = 120, kBottone = 1500;
+    constexpr double kMargine = 60, kBottone = 1500;
     const double alta = rett.height.v - 2 * kMargine, larga = rett.width.v - 3 * kMargine - kBottone;
     return {{
         {.tipo = Tipo::Riquadro,
