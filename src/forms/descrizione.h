@@ -67,9 +67,10 @@ struct Descrizione {
     bool cliccabile = false;            ///< a label, box or picture that takes clicks
     bool inAlto = false;                ///< a label's line stands at its top, not at the middle of its height
     Twip margine{};                     ///< left free at each side of a label's text
-    int lunghezzaMassima = 0;           ///< characters that can be typed into a text box; 0: no limit
-    Corsa corsa{};                      ///< of a slider
-    char scelta = 0;                    ///< small letter of the caption that presses a button or a check box with Alt; 0: none
+    bool tagliato = false;    ///< a button's text keeps its size and is cut off where it has no room
+    int lunghezzaMassima = 0; ///< characters that can be typed into a text box; 0: no limit
+    Corsa corsa{};            ///< of a slider
+    char scelta = 0; ///< small letter of the caption that presses a button or a check box with Alt; 0: none
 };
 
 /// One window.

@@ -20,7 +20,7 @@ constexpr std::array<const char*, 8> kFont{"Arial",       "Arial Narrow",       
 // clang-format off
 constexpr std::array<Descrizione, 7> kControlli{{
     {.tipo = Tipo::Lista, .nome = "lstFont", .rett = {225, 225, 4800, 5550}, .carattere = stile::kCasella, .nomeAccessibile = "Tipo di carattere"},
-    {.tipo = Tipo::Bottone, .nome = "cmdArt", .rett = {5250, 225, 8100, 5550}, .testo = stile::kTesto, .sfondo = stile::kCarta, .caption = "ANTEPRIMA"},
+    {.tipo = Tipo::Bottone, .nome = "cmdArt", .rett = {5250, 225, 8100, 5550}, .testo = stile::kTesto, .sfondo = stile::kCarta, .caption = "ANTEPRIMA", .tagliato = true},
     {.tipo = Tipo::Gruppo, .nome = "fraDimensione", .rett = {225, 6000, 13125, 1500}},
     {.tipo = Tipo::Etichetta, .nome = "lblDimensione", .padre = "fraDimensione", .rett = {225, 150, 2700, 1200}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Dimensione carattere"},
     {.tipo = Tipo::Cursore, .nome = "sldFontSize", .padre = "fraDimensione", .rett = {3000, 375, 8400, 750}, .nomeAccessibile = "Dimensione carattere", .corsa = kCorsa},

@@ -35,6 +35,7 @@ void BottoneWidget::mostra(const Controllo& c, const Resa& resa) {
     setText(QString(testo_.testo()).replace(QLatin1Char('&'), QLatin1String("&&")));
     setShortcut(scorciatoia(c)); // a new text drops the old one
     testo_.sottolinea(c.disegno().scelta);
+    testo_.taglia(c.disegno().tagliato);
     tinta_ = c.ForeColor();
     sfondo_ = c.BackColor();
     raggio_ = resa.raggio;
@@ -76,7 +77,7 @@ void BottoneWidget::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     const QColor base = sfondo_ ? aspetto::colore(*sfondo_) : aspetto::kBottone;
     p.setBrush(sfondoDi(base));
-    const double filo = hasFocus() ? 2.5 : 1;
+    const double filo = filoCon(raggio_) * (hasFocus() ? 2.5 : 1);
     p.setPen(QPen(hasFocus() ? aspetto::kAccento : base.darker(kScuroBordo), filo));
     p.drawRoundedRect(QRectF(rect()).adjusted(filo / 2, filo / 2, -filo / 2, -filo / 2), raggio_, raggio_);
     const auto [figura, testo] = aree();

@@ -106,6 +106,10 @@ void TestoAdattato::adatta(QSize area) const {
     if (misurata_ == area)
         return;
     misurata_ = area;
+    adattato_ = carattere_;
+    righe_.reset();
+    if (tagliato_)
+        return;
     const QFontMetricsF m(carattere_);
     const auto parole = testo_.split(QLatin1Char(' '), Qt::SkipEmptyParts).size();
     const double lunghezza = m.horizontalAdvance(testo_);

@@ -25,6 +25,8 @@ public:
     bool imposta(const QString& testo, const QFont& carattere, Allineamento allineamento);
     /// Underlines the first such letter of a text in one line, small or capital; 0 for none.
     void sottolinea(char lettera) { sottolineata_ = lettera; }
+    /// Keeps the text at its own size: the painter's widget cuts it off.
+    void taglia(bool tagliato) { tagliato_ = tagliato; }
     [[nodiscard]] const QString& testo() const { return testo_; }
     [[nodiscard]] const QFont& carattere() const { return carattere_; }
     void disegna(QPainter& pennello, const QRect& area, const QColor& colore) const;
@@ -42,6 +44,7 @@ private:
     QFont carattere_;
     Allineamento allineamento_ = Allineamento::Sinistra;
     char sottolineata_ = 0;
+    bool tagliato_ = false;
     // Worked out at the first painting, since a label may change more often than it is seen.
     mutable QSize misurata_;
     mutable QFont adattato_;
