@@ -193,6 +193,12 @@ TEST_F(FinestraProva, ListeSpunteECursoriVannoNeiDueVersi) {
     QTest::mouseClick(lista.viewport(), Qt::LeftButton, {}, lista.visualItemRect(lista.item(0)).center());
     EXPECT_EQ(cambi, (std::vector<std::string>{"chkVocale=0", "chkVocale=1", "sldVelocita=-3",
                                                "sldVelocita=2", "cboTipo=2", "lstFont=0"}));
+    for (QWidget* scansionato : {&w("cboTipo"), &w("lstFont"), &w("chkVocale")}) {
+        scansionato->setFocus();
+        QTest::keyClicks(scansionato, QStringLiteral("VAO12"));
+        QTest::keyClick(scansionato, Qt::Key_Return);
+    }
+    EXPECT_EQ(cambi.size(), 6U) << "a scanned code chooses and ticks nothing";
     c("cboTipo").Clear();
     EXPECT_EQ(combo.count(), 0);
     QTest::keyClicks(&w("txtBarCode"), QStringLiteral("59965010012334"));

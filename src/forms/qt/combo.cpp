@@ -3,6 +3,7 @@
 #include "forms/qt/voci.h"
 #include "platform/qt/aspetto.h"
 
+#include <QKeyEvent>
 #include <QListView>
 #include <QPainter>
 #include <QSignalBlocker>
@@ -34,7 +35,7 @@ void ComboWidget::mostra(const Controllo& c, const Resa& resa) {
 void ComboWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const double filo = hasFocus() ? 2 : 1;
+    const double filo = filoCon(raggio_) * (hasFocus() ? 2 : 1);
     p.setBrush(isEnabled() ? aspetto::kCarta : aspetto::kFinestra);
     p.setPen(QPen(hasFocus() ? aspetto::kAccento : aspetto::kBordo, filo));
     p.drawRoundedRect(QRectF(rect()).adjusted(filo / 2, filo / 2, -filo / 2, -filo / 2), raggio_, raggio_);
@@ -49,6 +50,16 @@ void ComboWidget::paintEvent(QPaintEvent*) {
     p.setPen(QPen(p.pen().color(), lato * 0.12, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     p.drawPolyline(
         QPolygonF{punta - QPointF(lato * 0.3, lato * 0.3), punta, punta + QPointF(lato * 0.3, -lato * 0.3)});
+}
+
+/// Qt would look for an item that begins with what is typed: a scanned code must not change a setting. The
+/// space bar opens the list, the arrows choose.
+void ComboWidget::keyPressEvent(QKeyEvent* evento) {
+    const QString testo = evento->text();
+    if (!testo.isEmpty() && testo.at(0).isPrint() && !testo.at(0).isSpace())
+        evento->ignore();
+    else
+        QComboBox::keyPressEvent(evento);
 }
 
 /// A wheel that turns over it on its way elsewhere must not change a setting.

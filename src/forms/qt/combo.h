@@ -14,6 +14,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
 
 private:

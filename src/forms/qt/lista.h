@@ -12,6 +12,9 @@ public:
     ListaWidget(const Controllo& controllo, QWidget* padre);
     void mostra(const Controllo& controllo, const Resa& resa) override;
 
+    /// What is typed looks for no item: it may be a scanner.
+    void keyboardSearch(const QString&) override {}
+
 protected:
     /// Enter is a touch on the chosen item.
     void keyPressEvent(QKeyEvent* evento) override;

@@ -2,6 +2,7 @@
 
 #include "platform/qt/aspetto.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 
@@ -31,19 +32,20 @@ void SpuntaWidget::mostra(const Controllo& c, const Resa& resa) {
     testo_.sottolinea(c.disegno().scelta);
     tinta_ = c.ForeColor();
     lato_ = std::min(resa.scala.altezza(kLato), resa.scala.larghezza(kLato));
-    raggio_ = resa.raggio / 2;
+    raggio_ = resa.raggio;
     update();
 }
 
 void SpuntaWidget::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const QRectF casella(2, (height() - lato_) / 2.0, lato_, lato_);
+    const double bordo = filoCon(raggio_) * 2;
+    const QRectF casella(bordo, (height() - lato_) / 2.0, lato_, lato_);
     const bool acceso = isEnabled() && isChecked();
     const bool vivo = hasFocus() || isDown() || acceso;
-    p.setPen(QPen(vivo ? aspetto::kAccento : aspetto::kBordo, hasFocus() ? 2.5 : 1.5));
+    p.setPen(QPen(vivo ? aspetto::kAccento : aspetto::kBordo, filoCon(raggio_) * (hasFocus() ? 2.5 : 1.5)));
     p.setBrush(acceso ? aspetto::kAccento : underMouse() ? aspetto::kFinestra : aspetto::kCarta);
-    p.drawRoundedRect(casella, raggio_, raggio_);
+    p.drawRoundedRect(casella, raggio_ / 2.0, raggio_ / 2.0);
     if (isChecked()) {
         p.setPen(QPen(isEnabled() ? aspetto::kCarta : aspetto::kBordo, lato_ / 8.0, Qt::SolidLine,
                       Qt::RoundCap, Qt::RoundJoin));
@@ -55,6 +57,14 @@ void SpuntaWidget::paintEvent(QPaintEvent*) {
     const int testo = lato_ + lato_ / 2;
     testo_.disegna(p, rect().adjusted(testo, 0, 0, 0),
                    isEnabled() ? aspetto::colore(tinta_) : aspetto::kBordo);
+}
+
+/// As with a button: the Return that ends a scanner's code must not tick it.
+void SpuntaWidget::keyPressEvent(QKeyEvent* evento) {
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+        evento->ignore();
+    else
+        QAbstractButton::keyPressEvent(evento);
 }
 
 } // namespace lumigrafo

@@ -15,12 +15,13 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
 
 private:
     TestoAdattato testo_;
     Colore tinta_;
     int lato_ = 0;   ///< of the box, pixels
-    int raggio_ = 0; ///< of its corners
+    int raggio_ = 0; ///< of corners at the window's size; its own are half as round
 };
 
 } // namespace lumigrafo
