@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <sstream>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -92,6 +93,12 @@ protected:
         return testo.str();
     }
     static void clic(Imposta& i, const char* nome, int indice = kSenzaIndice) { i.clic(nome, indice); }
+    /// The dialog said what it says after a save that went well, and ended the program.
+    void diSolitoFinisce() {
+        EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito");
+        EXPECT_EQ(diario.back(), "fine 0");
+        EXPECT_TRUE(avvisi.mostrati.empty());
+    }
     /// Saves, as far as the tests let it.
     void applica(Imposta& i) {
         try {
@@ -372,9 +379,24 @@ TEST_F(ImpostaTest, UnDiscoPienoAMetaLasciaLePrimeChiaviETace) {
     ::setrlimit(RLIMIT_FSIZE, &prima);
     std::signal(SIGXFSZ, segnale);
     EXPECT_EQ(file(), atteso);
-    EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito");
-    EXPECT_EQ(diario.back(), "fine 0");
-    EXPECT_TRUE(avvisi.mostrati.empty());
+    diSolitoFinisce();
+}
+
+TEST_F(ImpostaTest, UnaCartellaDiSolaLetturaTace) {
+    using std::filesystem::perms;
+    auto i = apri();
+    std::filesystem::permissions(cartella.percorso(), perms::owner_read | perms::owner_exec |
+                                                          perms::others_read | perms::others_exec);
+    constexpr uid_t kNessuno = 65534;
+    const uid_t chi = ::geteuid();
+    if (chi == 0) { // to whom no folder is read-only
+        ASSERT_EQ(::seteuid(kNessuno), 0);
+    }
+    applica(*i);
+    ASSERT_EQ(::seteuid(chi), 0);
+    std::filesystem::permissions(cartella.percorso(), perms::owner_all);
+    EXPECT_FALSE(std::filesystem::exists(ini.file()));
+    diSolitoFinisce();
 }
 
 } // namespace
