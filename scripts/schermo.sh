@@ -53,19 +53,24 @@ readonly disegno_larga=18960 disegno_alta=10665
 readonly griglia_alto=1020 griglia_larga=5835 riga_alta=800
 readonly griglie_sinistra=(30 6015 12015)
 
+# misura_menu WIDTH HEIGHT: sets alta_menu, the height of the menu bar in a console of that size: 49 pixels on the
+# smallest screen, and in proportion on a larger one.
+misura_menu() {
+  alta_menu=$((49 * $1 / 1024))
+  [ $alta_menu -le $((49 * $2 / 768)) ] || alta_menu=$((49 * $2 / 768))
+  [ $alta_menu -ge 49 ] || alta_menu=49
+}
+
 # clicca_ordine CONSOLE QUADRANT ROW COLUMN: touches a cell of a grid of three columns.
 clicca_ordine() {
   local X Y WIDTH HEIGHT
   eval "$(xdotool getwindowgeometry --shell "$1" | grep -E '^(X|Y|WIDTH|HEIGHT)=[0-9-]+$')"
-  # The menu bar: 49 pixels on the smallest screen, and in proportion on a larger one.
-  local menu=$((49 * WIDTH / 1024))
-  [ $menu -le $((49 * HEIGHT / 768)) ] || menu=$((49 * HEIGHT / 768))
-  [ $menu -ge 49 ] || menu=49
-  local dentro=$((HEIGHT - menu))
+  misura_menu "$WIDTH" "$HEIGHT"
+  local dentro=$((HEIGHT - alta_menu))
   local riga=$((riga_alta * dentro / disegno_alta))
   [ $riga -ge 48 ] || riga=48 # a finger's breadth: no row is lower
   local x=$((X + (griglie_sinistra[$2] + griglia_larga * (2 * $4 + 1) / 6) * WIDTH / disegno_larga))
-  local y=$((Y + menu + griglia_alto * dentro / disegno_alta + riga * $3 + riga / 2))
+  local y=$((Y + alta_menu + griglia_alto * dentro / disegno_alta + riga * $3 + riga / 2))
   xdotool mousemove "$x" "$y" click 1
 }
 
