@@ -116,7 +116,6 @@ void TestoAdattato::adatta(QSize area) const {
     const bool spazio = 2 * m.height() <= area.height();
     const bool frase = parole >= kParoleDiFrase && lunghezza > area.width() && spazio;
     const bool smisurato = lunghezza > kRigheSmisurate * area.width() && spazio;
-    righe_.reset();
     if (frase || smisurato || testo_.contains(QLatin1Char('\n')))
         adattaInRighe(area, lunghezza,
                       smisurato ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::WordWrap);
