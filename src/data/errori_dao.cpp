@@ -1,7 +1,6 @@
 #include "data/errori_dao.h"
 
 #include <algorithm>
-#include <sqlite3.h>
 #include <string>
 
 namespace lumigrafo {
@@ -27,7 +26,9 @@ constexpr Descrizione kDescrizioni[] = {
     {dao::kDisco, "Errore di disco o di rete."},
     {dao::kPercorso, "'|' non è un percorso valido. Assicurarsi che il nome del percorso sia stato digitato correttamente e di essere connessi al server in cui si trova il file."},
     {dao::kInUso, "Impossibile utilizzare '|'; file già in uso."},
+    {dao::kRigaLunga, "Il record è troppo grande."},
     {dao::kDanneggiato, "Impossibile aprire il database '|'. Potrebbe non essere un database riconosciuto dall'applicazione oppure il file potrebbe essere danneggiato."},
+    {dao::kBlocchi, "Impossibile bloccare il file '|': la cartella non permette i blocchi fra stazioni."},
     {dao::kPermesso, "Impossibile aprire il file '|'. È già aperto in modo esclusivo da un altro utente oppure è necessaria un'autorizzazione per visualizzarne i dati."},
     {dao::kParametri, "Parametri insufficienti. Previsto 1."},
     {dao::kQueryDiSelezione, "Impossibile eseguire una query di selezione."},
@@ -45,6 +46,7 @@ constexpr Descrizione kDescrizioni[] = {
     {dao::kCambiatoDaAltri, "Processo interrotto: un altro utente sta tentando di modificare contemporaneamente gli stessi dati."},
     {dao::kEsisteGia, "Il database '|' esiste già."},
     {dao::kBloccatoAggiornamento, "Impossibile aggiornare; attualmente bloccato."},
+    {dao::kTroppiUtenti, "Troppi utenti attivi."},
     {dao::kElementoMancante, "Impossibile trovare l'elemento nell'insieme."},
     {dao::kCampoRichiesto, "Il campo '|' non può contenere un valore Null. Immettere un valore nel campo."},
     {dao::kConvalida, "Uno o più valori non sono ammessi dalla regola di convalida della tabella."},
@@ -53,58 +55,6 @@ constexpr Descrizione kDescrizioni[] = {
     {dao::kConversione, "Errore di conversione del tipo di dati."},
 };
 // clang-format on
-
-/// What follows the last ": " of SQLite's message: the name that it complains about.
-std::string nomeIn(std::string_view messaggio) {
-    const auto due = messaggio.rfind(": ");
-    return std::string(due == messaggio.npos ? messaggio : messaggio.substr(due + 2));
-}
-
-int numeroBlocco(Operazione operazione) {
-    switch (operazione) {
-    case Operazione::Apertura:
-        return dao::kInUso;
-    case Operazione::Lettura:
-    case Operazione::Criterio:
-        return dao::kBloccatoLettura;
-    case Operazione::Aggiornamento:
-        return dao::kBloccatoAggiornamento;
-    case Operazione::Inserimento:
-        return dao::kBloccatoSalvataggio;
-    }
-    return dao::kRiservato;
-}
-
-/// SQLite tells a faulty statement by its message alone.
-Guasto erroreDiIstruzione(std::string_view messaggio, Operazione operazione, std::string_view testo) {
-    const bool criterio = operazione == Operazione::Criterio;
-    if (messaggio.starts_with("no such table: "))
-        return erroreDao(dao::kTabellaMancante, nomeIn(messaggio));
-    if (messaggio.starts_with("no such column: "))
-        return criterio ? erroreDao(dao::kCampoNelCriterio, nomeIn(messaggio)) : erroreDao(dao::kParametri);
-    constexpr std::string_view kSenzaColonna = " has no column named ";
-    if (const auto p = messaggio.find(kSenzaColonna); p != messaggio.npos)
-        return erroreDao(dao::kCampoInInsert, messaggio.substr(p + kSenzaColonna.size()));
-    if (messaggio.starts_with("cannot modify "))
-        return erroreDao(dao::kSolaLettura);
-    if (messaggio.find("syntax error") != messaggio.npos || messaggio == "incomplete input" ||
-        messaggio.starts_with("unrecognized token"))
-        return erroreDao(criterio ? dao::kSintassiCriterio : dao::kSintassiQuery, testo);
-    return erroreDao(dao::kRiservato, messaggio);
-}
-
-Guasto erroreDiVincolo(int esteso, std::string_view messaggio) {
-    switch (esteso) {
-    case SQLITE_CONSTRAINT_UNIQUE:
-    case SQLITE_CONSTRAINT_PRIMARYKEY:
-    case SQLITE_CONSTRAINT_ROWID:
-        return erroreDao(dao::kDuplicato);
-    case SQLITE_CONSTRAINT_NOTNULL:
-        return erroreDao(dao::kCampoRichiesto, nomeIn(messaggio));
-    default:
-        return erroreDao(dao::kConvalida);
-    }
-}
 
 } // namespace
 
@@ -115,37 +65,6 @@ Guasto erroreDao(int numero, std::string_view nome) {
     if (const auto vuoto = testo.find('|'); vuoto != testo.npos)
         testo.replace(vuoto, 1, nome);
     return {numero, std::move(testo)};
-}
-
-Guasto erroreSqlite(sqlite3* connessione, Operazione operazione, std::string_view testo) {
-    const int codice = sqlite3_errcode(connessione);
-    const std::string messaggio = sqlite3_errmsg(connessione);
-    const char* file = sqlite3_db_filename(connessione, "main");
-    const std::string nome = file ? file : "";
-    switch (codice & 0xff) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return erroreDao(numeroBlocco(operazione), nome);
-    case SQLITE_CONSTRAINT:
-        return erroreDiVincolo(sqlite3_extended_errcode(connessione), messaggio);
-    case SQLITE_READONLY:
-        return erroreDao(dao::kSolaLettura);
-    case SQLITE_CANTOPEN:
-    case SQLITE_PERM:
-        return erroreDao(dao::kPermesso, nome);
-    case SQLITE_NOTADB:
-        return erroreDao(dao::kFormato, nome);
-    case SQLITE_CORRUPT:
-        return erroreDao(dao::kDanneggiato, nome);
-    case SQLITE_IOERR:
-        return erroreDao(dao::kDisco);
-    case SQLITE_FULL:
-        return erroreDao(dao::kDiscoPieno);
-    case SQLITE_ERROR:
-        return erroreDiIstruzione(messaggio, operazione, testo);
-    default:
-        return erroreDao(dao::kRiservato, std::to_string(codice) + ": " + messaggio);
-    }
 }
 
 } // namespace lumigrafo

@@ -18,6 +18,8 @@ const char* testoDi(int numero) {
         return "Impossibile trovare il file";
     case guasti::kErroreIO:
         return "Errore di I/O della periferica";
+    case guasti::kDiscoPieno:
+        return "Disco pieno";
     case guasti::kPermessoNegato:
         return "Autorizzazione negata";
     case guasti::kAccesso:

@@ -11,6 +11,7 @@ namespace guasti {
 inline constexpr int kSovraccarico = 6;       ///< a value left its range
 inline constexpr int kIndice = 9;             ///< a subscript out of its bounds
 inline constexpr int kFileNonTrovato = 53;    ///< no such file
+inline constexpr int kDiscoPieno = 61;        ///< no room left on the device
 inline constexpr int kPermessoNegato = 70;    ///< the file is held by somebody else, or may not be opened
 inline constexpr int kAccesso = 75;           ///< the system denies the file, whoever else may use it
 inline constexpr int kPercorso = 76;          ///< no such folder

@@ -122,12 +122,14 @@ AggiungiOrdine leggiOrdine(Parole& parole) {
     return a;
 }
 
-Mostra leggiMostra(Parole& parole) {
-    Mostra m;
+/// A command that takes the folder and nothing else.
+template <typename Comando>
+Comando leggiCartella(Parole& parole, const std::string& nome) {
+    Comando c;
     while (!parole.finite())
-        prendiCartella(m.cartella, parole.prossima());
-    richiedeCartella(m.cartella, "mostra");
-    return m;
+        prendiCartella(c.cartella, parole.prossima());
+    richiedeCartella(c.cartella, nome);
+    return c;
 }
 
 } // namespace
@@ -149,7 +151,9 @@ Comando leggiArgomenti(const std::vector<std::string>& argomenti) {
     if (comando == "ordine")
         return leggiOrdine(parole);
     if (comando == "mostra")
-        return leggiMostra(parole);
+        return leggiCartella<Mostra>(parole, comando);
+    if (comando == "verifica")
+        return leggiCartella<Verifica>(parole, comando);
     throw ErroreDiUso("Comando sconosciuto: '" + comando + "'.");
 }
 

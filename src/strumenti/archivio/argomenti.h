@@ -25,7 +25,10 @@ struct AggiungiOrdine {
 struct Mostra {
     std::string cartella;
 };
-using Comando = std::variant<Aiuto, Versione, Crea, AggiungiOrdine, Mostra>;
+struct Verifica {
+    std::string cartella;
+};
+using Comando = std::variant<Aiuto, Versione, Crea, AggiungiOrdine, Mostra, Verifica>;
 
 using strumenti::ErroreDiUso;
 

@@ -1,6 +1,7 @@
 #include "strumenti/archivio/programma.h"
 
 #include "data/schema.h"
+#include "data/verifica_archivio.h"
 #include "platform/guasto.h"
 #include "strumenti/archivio/argomenti.h"
 #include "strumenti/archivio/codice_scontrino.h"
@@ -33,6 +34,7 @@ Comandi:
     --categoria CODICE=PEZZI  categoria da 1 a 10 e pezzi; si può ripetere
     --evidenzia               ordine da evidenziare
   mostra CARTELLA    stampa gli ordini in coda
+  verifica CARTELLA  legge tutto l'archivio e dice che cosa non torna
 
   --help             stampa questo testo
   --version          stampa la versione
@@ -79,6 +81,17 @@ public:
     }
     int operator()(const Mostra& m) {
         mostraCoda(*ws_.OpenDatabase(percorso(m.cartella)), out_);
+        return kFatto;
+    }
+    int operator()(const Verifica& v) {
+        const EsitoVerifica esito = verificaArchivio(percorso(v.cartella));
+        for (const std::string& nota : esito.note)
+            out_ << nota << '\n';
+        for (const std::string& discordanza : esito.discordanze)
+            out_ << "! " << discordanza << '\n';
+        if (!esito.discordanze.empty())
+            return kFallito;
+        out_ << "L'archivio è in ordine.\n";
         return kFatto;
     }
 

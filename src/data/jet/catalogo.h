@@ -1,0 +1,23 @@
+#pragma once
+
+#include "data/jet/definizione.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumigrafo::jet {
+
+/// A table of the archive, as its catalog names it.
+struct VoceCatalogo {
+    std::string nome;
+    std::uint32_t definizione = 0; ///< page; 0 for a table that lies in another file
+    bool sistema = false;          ///< Access's own
+};
+
+/// All tables, linked ones too, in the order of their names' rows. Throws Guasto 3049.
+[[nodiscard]] std::vector<VoceCatalogo> leggiCatalogo(Pagine& pagine);
+
+} // namespace lumigrafo::jet

@@ -1,0 +1,175 @@
+#include "data/jet/dato.h"
+
+#include "data/errori_dao.h"
+#include "data/jet/testo.h"
+#include "platform/conversioni.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <limits>
+
+namespace lumigrafo::jet {
+
+namespace {
+
+constexpr double kUnitaValuta = 10000;
+
+std::string guid(Vista v) {
+    constexpr char kCifre[] = "0123456789ABCDEF";
+    constexpr int kOrdine[] = {3, 2, 1, 0, -1, 5, 4, -1, 7, 6, -1, 8, 9, -1, 10, 11, 12, 13, 14, 15};
+    std::string t = "{";
+    for (const int i : kOrdine) {
+        if (i < 0) {
+            t += '-';
+            continue;
+        }
+        const std::uint8_t b = v.u8(static_cast<std::size_t>(i));
+        t += kCifre[b >> 4];
+        t += kCifre[b & 15];
+    }
+    return t + '}';
+}
+
+/// A whole number of 128 bits, in words from the highest, divided by ten; returns the remainder.
+unsigned perDieci(std::array<std::uint32_t, 4>& n) {
+    std::uint64_t resto = 0;
+    for (std::uint32_t& parola : n) {
+        const std::uint64_t x = resto << 32 | parola;
+        parola = static_cast<std::uint32_t>(x / 10);
+        resto = x % 10;
+    }
+    return static_cast<unsigned>(resto);
+}
+
+std::string decimale(Vista v, unsigned scala) {
+    std::array<std::uint32_t, 4> n{v.u32(1), v.u32(5), v.u32(9), v.u32(13)};
+    std::string cifre;
+    while (cifre.size() <= scala || std::any_of(n.begin(), n.end(), [](auto x) { return x != 0; })) {
+        if (scala > 0 && cifre.size() == scala)
+            cifre += '.';
+        cifre += static_cast<char>('0' + perDieci(n));
+    }
+    if (v.u8(0) & 0x80)
+        cifre += '-';
+    return {cifre.rbegin(), cifre.rend()};
+}
+
+template <typename Intero>
+std::string byteDi(Intero n) {
+    std::string b;
+    auto u = static_cast<std::make_unsigned_t<Intero>>(n);
+    for (std::size_t i = 0; i < sizeof n; ++i)
+        b += static_cast<char>(u >> (8 * i));
+    return b;
+}
+
+double numero(const Dato& dato) {
+    if (const auto* i = std::get_if<std::int64_t>(&dato))
+        return static_cast<double>(*i);
+    if (const auto* d = std::get_if<double>(&dato))
+        return *d;
+    if (const auto* t = std::get_if<std::string>(&dato)) {
+        try {
+            return aDoppio(*t);
+        } catch (const Guasto&) {
+        }
+    }
+    throw erroreDao(dao::kConversione);
+}
+
+template <typename Intero>
+std::string intero(double n) {
+    const double r = arrotonda(n);
+    // The highest 64-bit number is no double: below its neighbour all is well.
+    const double limite = std::ldexp(1.0, 8 * sizeof(Intero) - (std::is_signed_v<Intero> ? 1 : 0));
+    if (!(r >= static_cast<double>(std::numeric_limits<Intero>::min()) && r < limite))
+        throw erroreDao(dao::kConversione);
+    return byteDi(static_cast<Intero>(r));
+}
+
+std::string testo(const Colonna& c, const Dato& dato) {
+    std::string t;
+    if (const auto* s = std::get_if<std::string>(&dato))
+        t = *s;
+    else if (const auto* i = std::get_if<std::int64_t>(&dato))
+        t = std::to_string(*i);
+    else
+        throw erroreDao(dao::kConversione);
+    if (2 * aUtf16(t).size() > c.lunghezza)
+        throw erroreDao(dao::kCampoCorto);
+    return scriviTesto(t, c.comprimibile);
+}
+
+std::string binario(const Colonna& c, const Dato& dato) {
+    const auto* b = std::get_if<Byte>(&dato);
+    if (!b)
+        throw erroreDao(dao::kConversione);
+    if (b->byte.size() > c.lunghezza)
+        throw erroreDao(dao::kCampoCorto);
+    return b->byte;
+}
+
+} // namespace
+
+Dato leggiDato(const Colonna& c, Vista v) {
+    switch (c.tipo) {
+    case Tipo::Byte:
+        return std::int64_t{v.u8(0)};
+    case Tipo::Intero:
+        return std::int64_t{static_cast<std::int16_t>(v.u16(0))};
+    case Tipo::Lungo:
+        return std::int64_t{static_cast<std::int32_t>(v.u32(0))};
+    case Tipo::Valuta:
+        return static_cast<double>(static_cast<std::int64_t>(v.u64(0))) / kUnitaValuta;
+    case Tipo::Singolo:
+        return static_cast<double>(std::bit_cast<float>(v.u32(0)));
+    case Tipo::Doppio:
+    case Tipo::Data:
+        return std::bit_cast<double>(v.u64(0));
+    case Tipo::Testo:
+        return leggiTesto(v);
+    case Tipo::Guid:
+        return guid(v);
+    case Tipo::Decimale:
+        return decimale(v, c.scala());
+    default:
+        return Byte{std::string(v.testo())};
+    }
+}
+
+std::optional<std::string> scriviDato(const Colonna& c, const Dato& dato) {
+    if (std::holds_alternative<std::monostate>(dato))
+        return std::nullopt;
+    switch (c.tipo) {
+    case Tipo::Booleano:
+        return numero(dato) != 0 ? std::optional(std::string()) : std::nullopt;
+    case Tipo::Byte:
+        return intero<std::uint8_t>(numero(dato));
+    case Tipo::Intero:
+        return intero<std::int16_t>(numero(dato));
+    case Tipo::Lungo:
+        return intero<std::int32_t>(numero(dato));
+    case Tipo::Valuta:
+        return intero<std::int64_t>(numero(dato) * kUnitaValuta);
+    case Tipo::Singolo:
+        return byteDi(std::bit_cast<std::uint32_t>(static_cast<float>(numero(dato))));
+    case Tipo::Doppio:
+    case Tipo::Data:
+        return byteDi(std::bit_cast<std::uint64_t>(numero(dato)));
+    case Tipo::Testo:
+        return testo(c, dato);
+    case Tipo::Binario:
+        return binario(c, dato);
+    default:
+        throw Guasto(dao::kSolaLettura, "Il campo '" + c.nome + "' si può solo leggere.");
+    }
+}
+
+double giorniContinui(double data) {
+    const double giorno = std::trunc(data);
+    return data < 0 ? giorno + (giorno - data) : data;
+}
+
+} // namespace lumigrafo::jet

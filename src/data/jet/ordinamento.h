@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace lumigrafo::jet {
+
+/// The sort order of texts whose keys this engine can make, as a column's definition has it: General, as
+/// Access 2000 to 2007 has it for western languages.
+inline constexpr std::uint32_t kOrdineGenerale = 0x0409;
+
+/// The bytes by which texts compare in that order: case doesn't count, an accent counts less than a letter,
+/// trailing blanks are dropped. Throws Guasto 3421 for a character outside Windows-1252.
+[[nodiscard]] std::string chiaveTesto(std::u16string_view testo);
+
+} // namespace lumigrafo::jet

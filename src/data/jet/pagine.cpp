@@ -1,0 +1,127 @@
+#include "data/jet/pagine.h"
+
+#include "data/errori_dao.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lumigrafo::jet {
+
+namespace {
+
+/// Pages kept in memory at most: 128 MB. Beyond them the cache begins anew.
+constexpr std::size_t kCacheMassima = 32768;
+
+FileCondiviso apriFile(const std::filesystem::path& file, Pagine::Apertura& apertura) {
+    if (!apertura.sola_lettura) {
+        try {
+            return {file, FileCondiviso::Modo::Scrittura};
+        } catch (const Guasto& guasto) {
+            if (guasto.numero() != guasti::kAccesso)
+                throw;
+            apertura.sola_lettura = true;
+        }
+    }
+    return {file, FileCondiviso::Modo::Lettura};
+}
+
+} // namespace
+
+Pagine::Pagine(const std::filesystem::path& file, Apertura apertura)
+    : apertura_(std::move(apertura)), file_(apriFile(file, apertura_)) {
+    const std::uint64_t lunghezza = file_.lunghezza();
+    if (lunghezza < 3 * kPagina)
+        throw nonLetto("Il file è troppo corto per un archivio di Access.");
+    intestazione_ = leggiIntestazione(*dalFile(kPaginaIntestazione));
+    if (lunghezza % kPagina != 0)
+        throw danno(static_cast<std::uint32_t>(lunghezza / kPagina), "l'ultima pagina è tronca");
+    leggiParole(parole_);
+    svuota();
+    if (!apertura_.sola_lettura && !apertura_.da_soli)
+        stazione_ = std::make_unique<Stazione>(file, apertura_.computer, [this](unsigned u) {
+            // A number whose last station died while it wrote keeps telling so until the archive is mended.
+            return parole_.di(u) != Parole::kScrive && parole_.di(u) != Parole::kDanno;
+        });
+}
+
+std::shared_ptr<Pagina> Pagine::dalFile(std::uint32_t numero) const {
+    auto pagina = std::make_shared<Pagina>();
+    if (file_.leggi(std::uint64_t{numero} * kPagina, pagina->byte) != kPagina)
+        throw danno(numero, "oltre la fine del file");
+    return pagina;
+}
+
+PaginaLetta Pagine::leggi(std::uint32_t numero) {
+    if (!cambiate_.empty())
+        if (const auto mia = cambiate_.find(numero); mia != cambiate_.end())
+            return mia->second;
+    if (numero >= nelFile_)
+        throw danno(numero, "oltre la fine del file");
+    if (numero >= cache_.size())
+        cache_.resize(std::min<std::size_t>(nelFile_, std::size_t{numero} + 1024));
+    PaginaLetta& pagina = cache_[numero];
+    if (!pagina)
+        pagina = dalFile(numero);
+    return pagina;
+}
+
+PaginaLetta Pagine::leggi(std::uint32_t numero, TipoPagina tipo) {
+    PaginaLetta pagina = leggi(numero);
+    if (pagina->tipo() != tipo)
+        throw danno(numero, "non è del tipo atteso");
+    return pagina;
+}
+
+void Pagine::svuota() {
+    cache_.clear();
+    nelFile_ = static_cast<std::uint32_t>(std::min<std::uint64_t>(file_.lunghezza() / kPagina, 0xFFFFFF));
+    quante_ = std::max(nelFile_, cambiate_.empty() ? 0 : cambiate_.rbegin()->first + 1);
+}
+
+void Pagine::leggiParole(Parole& parole) const {
+    if (file_.leggi(kParoleCommit, parole.byte) != kByteParole)
+        throw danno(kPaginaIntestazione, "il file è tronco");
+}
+
+bool Pagine::qualcunoScrive(const Parole& parole) const {
+    for (unsigned u = 1; u <= Stazione::kMassimo; ++u)
+        if (parole.di(u) == Parole::kScrive && u != utente() && stazione_ && stazione_->presente(u))
+            return true;
+    return false;
+}
+
+std::int64_t Pagine::aggiorna() {
+    Parole ora;
+    leggiParole(ora);
+    for (Pazienza pazienza(apertura_.attesa); ora != parole_ && qualcunoScrive(ora);) {
+        if (!pazienza.ancora())
+            throw erroreDao(dao::kBloccatoLettura);
+        pazienza.attendi();
+        leggiParole(ora);
+    }
+    if (ora != parole_ || cache_.size() > kCacheMassima) {
+        parole_ = ora;
+        svuota();
+    }
+    return parole_.impronta();
+}
+
+bool Pagine::immutata() const {
+    Parole ora;
+    leggiParole(ora);
+    return ora == parole_;
+}
+
+std::vector<unsigned> Pagine::sospette() const {
+    Parole ora;
+    leggiParole(ora);
+    std::vector<unsigned> v;
+    for (unsigned u = 0; u <= Stazione::kMassimo; ++u) {
+        const bool morta = u != utente() && (u == 0 || !stazione_ || !stazione_->presente(u));
+        if (ora.di(u) == Parole::kDanno || (ora.di(u) == Parole::kScrive && morta))
+            v.push_back(u);
+    }
+    return v;
+}
+
+} // namespace lumigrafo::jet

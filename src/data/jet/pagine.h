@@ -1,0 +1,144 @@
+#pragma once
+
+#include "data/jet/intestazione.h"
+#include "data/jet/parole.h"
+#include "data/jet/pazienza.h"
+#include "data/jet/stazione.h"
+#include "platform/file_condiviso.h"
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace lumigrafo::jet {
+
+/// The pages of an archive: as they lie in the file, seen through a cache that other stations' commits empty,
+/// and on top of them the pages that this station's transaction has changed and not yet written.
+class Pagine {
+public:
+    struct Apertura {
+        bool sola_lettura = false;
+        bool da_soli = false;               ///< nobody else can know the file: no locks, no .ldb
+        std::string computer = "lumigrafo"; ///< our name for the other stations
+        std::chrono::milliseconds attesa{5000};
+    };
+    /// Throws Guasto for what can't be opened or must not be touched (see leggiIntestazione).
+    Pagine(const std::filesystem::path& file, Apertura apertura);
+
+    [[nodiscard]] const Intestazione& intestazione() const { return intestazione_; }
+    [[nodiscard]] bool solaLettura() const { return apertura_.sola_lettura; }
+    /// Pages in the file, with those that the transaction adds.
+    [[nodiscard]] std::uint32_t quante() const { return quante_; }
+    /// Throws Guasto 3049 for a page behind the file's end.
+    [[nodiscard]] PaginaLetta leggi(std::uint32_t numero);
+    /// A page that must be of that type, or Guasto 3049.
+    [[nodiscard]] PaginaLetta leggi(std::uint32_t numero, TipoPagina tipo);
+
+    /// Turns to the archive's present state, waiting for whoever is writing. Throws Guasto 3187 where that
+    /// takes too long. Returns the state's number.
+    std::int64_t aggiorna();
+    /// True if the state that `aggiorna` found still stands: what was read since then fits together.
+    [[nodiscard]] bool immutata() const;
+    /// Reads with one state of the archive behind all of `lettura`; repeats it where another station wrote in
+    /// between.
+    template <typename Lettura>
+    auto coerente(Lettura&& lettura);
+    /// Words in the state "writing" or "damaged" whose station is gone: the archive may be half written.
+    [[nodiscard]] std::vector<unsigned> sospette() const;
+
+    /// One change of the transaction, whole or not at all. It is planned on the present state and planned
+    /// again where another station wrote or holds a page; after the wait Guasto 3218 names that station.
+    template <typename Cambio>
+    auto cambia(Cambio&& cambio);
+    /// Inside `cambia`: locks a page and gives it for changing.
+    [[nodiscard]] Pagina& modifica(std::uint32_t numero);
+    /// Inside `cambia`: a new page at the file's end, all zeros.
+    [[nodiscard]] std::uint32_t aggiungi();
+    /// Locks a page for the rest of the transaction, without changing it. As `cambia` fails.
+    void riserva(std::uint32_t numero);
+
+    /// What the transaction has changed up to a moment.
+    struct Segno {
+        std::map<std::uint32_t, PaginaLetta> cambiate;
+        std::uint32_t quante;
+    };
+    [[nodiscard]] Segno segno() const { return {cambiate_, quante_}; }
+    void tornaA(const Segno& segno);
+
+    /// Writes the transaction and gives the locks back. Throws Guasto, with nothing changed, where the disk
+    /// fails.
+    void registra();
+    /// Drops the transaction and gives the locks back.
+    void abbandona() noexcept;
+
+private:
+    struct StatoVecchio {}; ///< another station committed while a change was being planned
+
+    void leggiParole(Parole& parole) const;
+    void scriviParola(std::uint16_t parola);
+    [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
+    void svuota();
+    [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;
+    void blocca(std::uint32_t numero);
+    void sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept;
+    void scriviPagine(const std::vector<std::uint32_t>& ordine);
+    [[nodiscard]] std::vector<std::uint32_t> ordineDiScrittura() const;
+    void scrivi(std::uint32_t numero, const Pagina& pagina);
+    [[nodiscard]] std::set<std::uint32_t> bloccate() const;
+    [[nodiscard]] unsigned utente() const { return stazione_ ? stazione_->utente() : 0; }
+
+    Apertura apertura_;
+    FileCondiviso file_;
+    Intestazione intestazione_;
+    std::unique_ptr<Stazione> stazione_; ///< none for who reads only or works alone
+    Parole parole_;                      ///< of the state that the cache belongs to
+    std::vector<PaginaLetta> cache_;
+    std::uint32_t nelFile_ = 0, quante_ = 0;
+    std::map<std::uint32_t, PaginaLetta> cambiate_;
+};
+
+template <typename Lettura>
+auto Pagine::coerente(Lettura&& lettura) {
+    for (Pazienza pazienza(apertura_.attesa);;) {
+        aggiorna();
+        try {
+            auto esito = lettura();
+            if (immutata() || !pazienza.ancora())
+                return esito;
+        } catch (const Guasto&) { // what fits together badly may be half of two states
+            if (immutata() || !pazienza.ancora())
+                throw;
+        }
+    }
+}
+
+template <typename Cambio>
+auto Pagine::cambia(Cambio&& cambio) {
+    const Segno prima = segno();
+    const std::set<std::uint32_t> nostre = bloccate();
+    for (Pazienza pazienza(apertura_.attesa);;) {
+        try {
+            aggiorna();
+            auto esito = cambio();
+            if (!immutata())
+                throw StatoVecchio{};
+            return esito;
+        } catch (const StatoVecchio&) {
+            tornaA(prima); // what was locked stays so: the next try can't be outrun on it
+        } catch (const Guasto& guasto) {
+            tornaA(prima);
+            const bool vecchio = !immutata();
+            sbloccaNuove(nostre);
+            if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
+                throw;
+            pazienza.attendi();
+        }
+    }
+}
+
+} // namespace lumigrafo::jet

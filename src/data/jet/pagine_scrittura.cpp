@@ -1,0 +1,168 @@
+// The half of Pagine that changes the archive.
+#include "data/errori_dao.h"
+#include "data/jet/pagine.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lumigrafo::jet {
+
+namespace {
+
+/// Children before parents: who dies in between leaves at worst pages that nobody refers to.
+int rango(const Pagina& pagina) {
+    switch (pagina.tipo()) {
+    case TipoPagina::Dati:
+        return 0;
+    case TipoPagina::Foglia:
+        return 1;
+    case TipoPagina::Nodo:
+        return 2;
+    case TipoPagina::Definizione:
+        return 4;
+    default:
+        return 3;
+    }
+}
+
+} // namespace
+
+std::set<std::uint32_t> Pagine::bloccate() const {
+    return stazione_ ? stazione_->bloccate() : std::set<std::uint32_t>();
+}
+
+void Pagine::sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept {
+    for (const std::uint32_t p : bloccate())
+        if (!prima.contains(p))
+            stazione_->sblocca(p);
+}
+
+void Pagine::blocca(std::uint32_t numero) {
+    if (solaLettura())
+        throw erroreDao(dao::kSolaLettura);
+    if (!stazione_ || stazione_->bloccate().contains(numero))
+        return;
+    if (!stazione_->blocca(numero)) {
+        const std::string altra = stazione_->titolare(numero);
+        throw Guasto(kOccupata, "Impossibile aggiornare; attualmente bloccato da " +
+                                    (altra.empty() ? "un'altra stazione." : "'" + altra + "'."));
+    }
+    if (!immutata()) // what was read of the page before it was locked may be old
+        throw StatoVecchio{};
+}
+
+void Pagine::riserva(std::uint32_t numero) {
+    cambia([&] {
+        blocca(numero);
+        return true;
+    });
+}
+
+Pagina& Pagine::modifica(std::uint32_t numero) {
+    blocca(numero);
+    auto mia = cambiate_.find(numero);
+    // A page that a mark still refers to, or a reader, is left to them.
+    if (mia == cambiate_.end() || mia->second.use_count() > 1) {
+        auto copia = std::make_shared<Pagina>(*leggi(numero));
+        mia = cambiate_.insert_or_assign(numero, std::move(copia)).first;
+    }
+    return const_cast<Pagina&>(*mia->second); // made above, and nobody else has it
+}
+
+std::uint32_t Pagine::aggiungi() {
+    constexpr std::uint32_t kMassimo = 0x80000; // 2 GB
+    const std::uint32_t numero = quante_;
+    if (numero >= kMassimo)
+        throw erroreDao(dao::kDiscoPieno);
+    blocca(numero);
+    cambiate_.emplace(numero, std::make_shared<Pagina>());
+    quante_ = numero + 1;
+    return numero;
+}
+
+void Pagine::tornaA(const Segno& segno) {
+    cambiate_ = segno.cambiate;
+    quante_ = std::max(nelFile_, segno.quante);
+}
+
+void Pagine::scrivi(std::uint32_t numero, const Pagina& pagina) {
+    file_.scrivi(std::uint64_t{numero} * kPagina, pagina.byte);
+}
+
+void Pagine::scriviParola(std::uint16_t parola) {
+    const std::uint8_t byte[] = {static_cast<std::uint8_t>(parola), static_cast<std::uint8_t>(parola >> 8)};
+    file_.scrivi(kParoleCommit + 2 * utente(), byte);
+    file_.consolida();
+}
+
+std::vector<std::uint32_t> Pagine::ordineDiScrittura() const {
+    std::vector<std::uint32_t> ordine;
+    for (const auto& [numero, pagina] : cambiate_)
+        ordine.push_back(numero);
+    std::stable_sort(ordine.begin(), ordine.end(), [this](std::uint32_t a, std::uint32_t b) {
+        const bool nuovaA = a >= nelFile_, nuovaB = b >= nelFile_;
+        if (nuovaA != nuovaB)
+            return nuovaA; // the file grows before anything refers to its new end
+        return !nuovaA && rango(*cambiate_.at(a)) < rango(*cambiate_.at(b));
+    });
+    return ordine;
+}
+
+void Pagine::scriviPagine(const std::vector<std::uint32_t>& ordine) {
+    std::map<std::uint32_t, std::shared_ptr<Pagina>> vecchie;
+    for (const std::uint32_t n : ordine)
+        if (n < nelFile_)
+            vecchie[n] = dalFile(n);
+    try {
+        for (const std::uint32_t n : ordine)
+            scrivi(n, *cambiate_.at(n));
+        file_.consolida();
+    } catch (const Guasto&) {
+        for (const auto& [n, pagina] : vecchie)
+            scrivi(n, *pagina);
+        throw;
+    }
+}
+
+void Pagine::registra() {
+    if (cambiate_.empty())
+        return abbandona();
+    Parole prima;
+    leggiParole(prima);
+    const std::uint16_t parola = prima.di(utente());
+    scriviParola(Parole::kScrive);
+    try {
+        scriviPagine(ordineDiScrittura());
+    } catch (const Guasto&) {
+        // Where not even this goes through, the word stays at "writing" and tells that the archive is
+        // suspect.
+        ignorandoGuasti([&] { scriviParola(parola); });
+        abbandona();
+        throw;
+    }
+    scriviParola(Parole::successiva(parola));
+
+    const auto nuove = std::exchange(cambiate_, {});
+    Parole attese = parole_;
+    attese.metti(utente(), Parole::successiva(parola));
+    leggiParole(parole_);
+    if (attese != parole_) { // another station committed too, elsewhere
+        parole_ = attese;
+        svuota();
+    } else {
+        nelFile_ = quante_;
+    }
+    cache_.resize(std::max<std::size_t>(cache_.size(), nelFile_));
+    for (const auto& [numero, pagina] : nuove)
+        if (numero < cache_.size())
+            cache_[numero] = pagina;
+    abbandona();
+}
+
+void Pagine::abbandona() noexcept {
+    cambiate_.clear();
+    quante_ = nelFile_;
+    sbloccaNuove({});
+}
+
+} // namespace lumigrafo::jet

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/file_condiviso.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <set>
+#include <string>
+
+namespace lumigrafo::jet {
+
+/// This program as one of the stations at work on an archive: its entry and its locks in the file beside it
+/// that all stations share (same name, extension .ldb). Locks lie far beyond that file's end; none is ever
+/// put on the archive itself. The file stays when the last station leaves: an entry means a station only
+/// while its lock is held.
+class Stazione {
+public:
+    static constexpr unsigned kMassimo = 255;
+
+    /// Takes the first free user number for which `libero` says yes. Throws Guasto 3239 where all are taken,
+    /// 3050 where the folder's file system knows no locks or the file can't be made.
+    template <typename Libero>
+    Stazione(const std::filesystem::path& archivio, const std::string& computer, Libero&& libero)
+        : Stazione(archivio) {
+        for (unsigned u = 1; u <= kMassimo; ++u)
+            if (libero(u) && prendi(u, computer))
+                return;
+        tuttiPresi();
+    }
+
+    [[nodiscard]] unsigned utente() const { return utente_; }
+    /// Whether a station other than this one is there under that number (1 to 255).
+    [[nodiscard]] bool presente(unsigned utente) const;
+
+    /// Keeps all others from writing a page until `sblocca`; false where another does so already. Locking
+    /// again what is locked is true.
+    [[nodiscard]] bool blocca(std::uint32_t pagina);
+    void sblocca(std::uint32_t pagina);
+    [[nodiscard]] const std::set<std::uint32_t>& bloccate() const { return bloccate_; }
+    /// The computer of the station that holds the page; empty where it can't be told any more.
+    [[nodiscard]] std::string titolare(std::uint32_t pagina) const;
+
+private:
+    explicit Stazione(const std::filesystem::path& archivio);
+    bool prendi(unsigned utente, const std::string& computer);
+    [[noreturn]] static void tuttiPresi();
+    [[nodiscard]] FileCondiviso::Intervallo scrittura(std::uint32_t pagina) const;
+
+    FileCondiviso file_;
+    unsigned utente_ = 0;
+    std::set<std::uint32_t> bloccate_;
+};
+
+} // namespace lumigrafo::jet

@@ -1,0 +1,118 @@
+#include "tests/data/jet/esporta.h"
+
+#include "data/jet/catalogo.h"
+#include "data/jet/dato.h"
+#include "data/jet/riga.h"
+#include "data/jet/scansione.h"
+#include "data/jet/testo.h"
+#include "data/jet/valore_lungo.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+
+namespace lumigrafo::prova {
+
+namespace {
+
+using jet::Colonna;
+using jet::Tipo;
+
+std::string traVirgolette(const std::string& t) {
+    std::string s = "\"";
+    for (const char c : t)
+        s.append(c == '"' ? 2 : 1, c);
+    return s + '"';
+}
+
+std::string esadecimale(const std::string& byte) {
+    std::string s;
+    std::array<char, 3> due{};
+    for (const char c : byte) {
+        std::snprintf(due.data(), due.size(), "%02X", static_cast<unsigned char>(c));
+        s += due.data();
+    }
+    return traVirgolette(s);
+}
+
+std::string conCifre(double n, int cifre) {
+    std::array<char, 64> t{};
+    std::snprintf(t.data(), t.size(), "%.*e", cifre, n);
+    return t.data();
+}
+
+std::string data(double giorni) {
+    const auto secondi =
+        static_cast<std::time_t>(std::llround((jet::giorniContinui(giorni) - 25569) * 86400));
+    std::array<char, 32> t{};
+    std::strftime(t.data(), t.size(), "\"%Y-%m-%d %H:%M:%S\"", std::gmtime(&secondi));
+    return t.data();
+}
+
+std::string campo(jet::Pagine& pagine, const Colonna& c, const jet::Riga& riga) {
+    if (c.tipo == Tipo::Booleano)
+        return riga.nulla(c) ? "0" : "1";
+    if (riga.nulla(c))
+        return "";
+    const jet::Vista v = riga.valore(c);
+    if (c.tipo == Tipo::Ole)
+        return esadecimale(leggiValoreLungo(pagine, v));
+    if (c.tipo == Tipo::Memo) {
+        const std::string t = leggiValoreLungo(pagine, v);
+        return traVirgolette(
+            jet::leggiTesto({{reinterpret_cast<const std::uint8_t*>(t.data()), t.size()}, v.pagina()}));
+    }
+    const jet::Dato d = leggiDato(c, v);
+    if (const auto* i = std::get_if<std::int64_t>(&d))
+        return std::to_string(*i);
+    if (const auto* b = std::get_if<jet::Byte>(&d))
+        return esadecimale(b->byte);
+    if (const auto* t = std::get_if<std::string>(&d))
+        return c.tipo == Tipo::Testo || c.tipo == Tipo::Guid ? traVirgolette(*t) : *t;
+    const double n = std::get<double>(d);
+    std::array<char, 64> t{};
+    switch (c.tipo) {
+    case Tipo::Data:
+        return data(n);
+    case Tipo::Valuta:
+        std::snprintf(t.data(), t.size(), "%.4f", n);
+        return t.data();
+    default:
+        return conCifre(n, c.tipo == Tipo::Singolo ? 8 : 16);
+    }
+}
+
+} // namespace
+
+std::string esporta(jet::Pagine& pagine, const std::string& tabella) {
+    for (const auto& voce : jet::leggiCatalogo(pagine)) {
+        if (!jet::stessoNome(voce.nome, tabella) || voce.definizione == 0)
+            continue;
+        const jet::Definizione d = leggiDefinizione(pagine, voce.definizione);
+        std::string righe;
+        for (const auto& trovata : scorri(pagine, d)) {
+            const jet::Riga riga(d, trovata.riga.byte);
+            for (std::size_t i = 0; i < d.colonne.size(); ++i)
+                righe += (i ? "," : "") + campo(pagine, d.colonne[i], riga);
+            righe += '\n';
+        }
+        return righe;
+    }
+    return "no such table";
+}
+
+std::string mdbExport(const std::string& file, const std::string& tabella) {
+    const std::string comando =
+        "mdb-export -H -b hex -T '%Y-%m-%d %H:%M:%S' '" + file + "' '" + tabella + "' 2>/dev/null";
+    std::string uscita;
+    std::FILE* tubo = ::popen(comando.c_str(), "r");
+    std::array<char, 4096> pezzo{};
+    for (std::size_t n = 0; tubo && (n = std::fread(pezzo.data(), 1, pezzo.size(), tubo)) > 0;)
+        uscita.append(pezzo.data(), n);
+    if (tubo)
+        ::pclose(tubo);
+    return uscita;
+}
+
+} // namespace lumigrafo::prova
