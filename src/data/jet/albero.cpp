@@ -12,7 +12,7 @@ Albero::Via Albero::scendi(std::string_view byte) const {
     for (std::uint32_t numero = indice_.radice;;) {
         if (via.size() >= kProfonditaMassima)
             throw danno(numero, "l'indice gira in tondo");
-        via.push_back({numero, leggi(numero), 0});
+        via.push_back({numero, leggi(numero), 0, false});
         Passo& passo = via.back();
         if (passo.pagina.foglia)
             return via;

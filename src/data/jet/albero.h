@@ -38,6 +38,7 @@ private:
         std::uint32_t numero;
         PaginaIndice pagina;
         std::size_t figlio;
+        bool cambiata = false;
     };
     using Via = std::vector<Passo>;
 
@@ -45,17 +46,18 @@ private:
     /// From the root to the leaf where these bytes stand or would stand.
     [[nodiscard]] Via scendi(std::string_view byte) const;
     void scrivi(std::uint32_t numero, const PaginaIndice& pagina);
-    void correggiPadri(Via& via, const std::string& nuova);
-    void dividi(Via& via, bool allaFine);
-    void dividiRadice(Passo& passo, bool allaFine);
-    [[nodiscard]] static PaginaIndice stacca(PaginaIndice& sinistra, bool allaFine);
-    void collega(std::uint32_t sinistra, std::uint32_t destra, const PaginaIndice& nuova);
-    void accogli(Passo& padre, const PaginaIndice& sinistra, std::uint32_t numeroSinistra,
-                 std::uint32_t numeroDestra);
+    /// The entry that ends the page at `via[livello]` is now `nuova`: tells the nodes above.
+    static void correggiPadri(Via& via, std::size_t livello, const std::string& nuova);
+    /// Writes what of the way was changed, from the leaf upwards; splits what has become too large.
+    void posa(Via& via, bool allaFine);
+    void dividi(Via& via, std::size_t livello, bool allaFine);
+    void dividiRadice(Passo& radice, bool allaFine);
     [[nodiscard]] std::uint32_t nuovaPagina();
-    void libera(std::uint32_t numero);
-    void togliPagina(Via& via);
-    void scollega(const PaginaIndice& pagina);
+    /// Takes out the page at `via[livello]`, which has nothing left in it.
+    void togliPagina(Via& via, std::size_t livello);
+    void togliFiglio(Via& via, std::size_t livello);
+    void collega(std::uint32_t sinistra, std::uint32_t destra);
+    [[nodiscard]] std::string ultimaSotto(std::uint32_t numero) const;
 
     Pagine& pagine_;
     const Definizione& definizione_;

@@ -40,6 +40,9 @@ struct PaginaIndice {
                                             std::uint32_t tabella);
     /// False where the entries need more room than a page has, even with their common prefix left out.
     [[nodiscard]] bool entra() const;
+    /// Moves the entries behind some place to a new page, which takes the tail as well: so that both fit and
+    /// are of like size, or, where this page keeps growing at its end (`allaFine`), the last one alone.
+    [[nodiscard]] PaginaIndice dividi(bool allaFine);
     /// Throws Guasto 3049 where they don't fit.
     void scrivi(Pagina& pagina) const;
 
@@ -51,6 +54,7 @@ struct PaginaIndice {
 private:
     [[nodiscard]] std::size_t prefissoComune() const;
     [[nodiscard]] std::size_t byteCon(std::size_t prefisso) const;
+    [[nodiscard]] std::size_t tagliaMigliore() const;
 };
 
 } // namespace lumigrafo::jet

@@ -59,7 +59,9 @@ public:
     [[nodiscard]] Pagina& modifica(std::uint32_t numero);
     /// Inside `cambia`: a new page at the file's end, all zeros.
     [[nodiscard]] std::uint32_t aggiungi();
-    /// Locks a page for the rest of the transaction, without changing it. As `cambia` fails.
+    /// Inside `cambia`: locks a page for the rest of the transaction, without changing it.
+    void bloccaPagina(std::uint32_t numero);
+    /// The same as a change of its own.
     void riserva(std::uint32_t numero);
 
     /// What the transaction has changed up to a moment.
@@ -84,7 +86,6 @@ private:
     [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
     void svuota();
     [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;
-    void blocca(std::uint32_t numero);
     void sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept;
     void scriviPagine(const std::vector<std::uint32_t>& ordine);
     [[nodiscard]] std::vector<std::uint32_t> ordineDiScrittura() const;

@@ -37,7 +37,7 @@ void Pagine::sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept {
             stazione_->sblocca(p);
 }
 
-void Pagine::blocca(std::uint32_t numero) {
+void Pagine::bloccaPagina(std::uint32_t numero) {
     if (solaLettura())
         throw erroreDao(dao::kSolaLettura);
     if (!stazione_ || stazione_->bloccate().contains(numero))
@@ -53,13 +53,13 @@ void Pagine::blocca(std::uint32_t numero) {
 
 void Pagine::riserva(std::uint32_t numero) {
     cambia([&] {
-        blocca(numero);
+        bloccaPagina(numero);
         return true;
     });
 }
 
 Pagina& Pagine::modifica(std::uint32_t numero) {
-    blocca(numero);
+    bloccaPagina(numero);
     auto mia = cambiate_.find(numero);
     // A page that a mark still refers to, or a reader, is left to them.
     if (mia == cambiate_.end() || mia->second.use_count() > 1) {
@@ -74,7 +74,7 @@ std::uint32_t Pagine::aggiungi() {
     const std::uint32_t numero = quante_;
     if (numero >= kMassimo)
         throw erroreDao(dao::kDiscoPieno);
-    blocca(numero);
+    bloccaPagina(numero);
     cambiate_.emplace(numero, std::make_shared<Pagina>());
     quante_ = numero + 1;
     return numero;

@@ -19,7 +19,10 @@ namespace {
 using jet::Colonna;
 using jet::Tipo;
 
+/// mdb-export tells an empty text from a null in no way.
 std::string traVirgolette(const std::string& t) {
+    if (t.empty())
+        return t;
     std::string s = "\"";
     for (const char c : t)
         s.append(c == '"' ? 2 : 1, c);
@@ -43,10 +46,12 @@ std::string conCifre(double n, int cifre) {
 }
 
 std::string data(double giorni) {
-    const auto secondi =
-        static_cast<std::time_t>(std::llround((jet::giorniContinui(giorni) - 25569) * 86400));
+    const double secondi = (jet::giorniContinui(giorni) - 25569) * 86400;
+    if (!(std::abs(secondi) < 1e11)) // no date; only damaged files have such
+        return "\"\"";
+    const auto intero = static_cast<std::time_t>(std::llround(secondi));
     std::array<char, 32> t{};
-    std::strftime(t.data(), t.size(), "\"%Y-%m-%d %H:%M:%S\"", std::gmtime(&secondi));
+    std::strftime(t.data(), t.size(), "\"%Y-%m-%d %H:%M:%S\"", std::gmtime(&intero));
     return t.data();
 }
 
