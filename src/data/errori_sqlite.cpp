@@ -1,4 +1,5 @@
 #include "data/errori_dao.h"
+#include "data/guasto_sqlite.h"
 
 #include <sqlite3.h>
 #include <string>
@@ -64,6 +65,10 @@ Guasto erroreDiVincolo(int esteso, std::string_view messaggio) {
 Guasto erroreSqlite(sqlite3* connessione, Operazione operazione, std::string_view testo) {
     const int codice = sqlite3_errcode(connessione);
     const std::string messaggio = sqlite3_errmsg(connessione);
+    if (const auto guasto = guastoDaSqlite(messaggio))
+        return guasto->numero() == dao::kBloccatoAggiornamento
+                   ? Guasto(numeroBlocco(operazione), guasto->descrizione())
+                   : *guasto;
     const char* file = sqlite3_db_filename(connessione, "main");
     const std::string nome = file ? file : "";
     switch (codice & 0xff) {
@@ -73,6 +78,7 @@ Guasto erroreSqlite(sqlite3* connessione, Operazione operazione, std::string_vie
     case SQLITE_CONSTRAINT:
         return erroreDiVincolo(sqlite3_extended_errcode(connessione), messaggio);
     case SQLITE_READONLY:
+    case SQLITE_AUTH:
         return erroreDao(dao::kSolaLettura);
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:

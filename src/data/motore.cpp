@@ -1,7 +1,7 @@
 #include "data/motore.h"
 
 #include "data/formato.h"
-#include "data/jet/pagine.h"
+#include "data/motore_access.h"
 #include "data/motore_sqlite.h"
 
 namespace lumigrafo {
@@ -11,10 +11,9 @@ std::unique_ptr<Motore> apriMotore(const std::filesystem::path& file, std::chron
     case Formato::Sqlite:
         return std::make_unique<MotoreSqlite>(file, attesa);
     case Formato::Access:
-        break;
+        return std::make_unique<MotoreAccess>(file, attesa);
     }
-    jet::Pagine(file, {.sola_lettura = true, .attesa = attesa});
-    throw jet::nonLetto("Questa versione non legge gli archivi di Access.");
+    return nullptr;
 }
 
 } // namespace lumigrafo

@@ -33,6 +33,9 @@ public:
     /// Gives a lock back. The last one commits; where that fails the whole transaction is undone and Guasto
     /// thrown.
     virtual void sblocca() = 0;
+    /// True where a statement that ran into another station's change or lock is worth running again from its
+    /// begin: it gave up what it held, and may find what it needs.
+    [[nodiscard]] virtual bool siRipete() const { return false; }
     /// Undoes the transaction and gives every lock back.
     virtual void annulla() noexcept = 0;
 };

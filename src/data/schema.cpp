@@ -1,6 +1,7 @@
 #include "data/schema.h"
 
 #include "data/errori_dao.h"
+#include "data/schema_access.h"
 
 #include <cstdio>
 #include <memory>
@@ -79,7 +80,7 @@ void riservaFile(const std::filesystem::path& file) {
     std::fclose(nuovo);
 }
 
-void riempi(const std::filesystem::path& file) {
+void riempiSqlite(const std::filesystem::path& file) {
     sqlite3* db = nullptr;
     const int esito = sqlite3_open_v2(file.string().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
     const std::unique_ptr<sqlite3, decltype(&sqlite3_close_v2)> chiude(db, sqlite3_close_v2);
@@ -92,10 +93,10 @@ void riempi(const std::filesystem::path& file) {
 
 } // namespace
 
-void creaArchivio(const std::filesystem::path& file) {
+void creaArchivio(const std::filesystem::path& file, Formato formato) {
     riservaFile(file);
     try {
-        riempi(file);
+        formato == Formato::Access ? riempiAccess(file) : riempiSqlite(file);
     } catch (const Guasto&) {
         std::error_code ec;
         std::filesystem::remove(file, ec);

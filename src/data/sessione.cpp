@@ -1,5 +1,6 @@
 #include "data/sessione.h"
 
+#include "data/jet/pazienza.h"
 #include "data/lessico.h"
 #include "data/recordset.h"
 #include "platform/conversioni.h"
@@ -77,7 +78,8 @@ bool Istruzione::passo() {
 }
 
 Sessione::Sessione(const std::filesystem::path& file, std::chrono::milliseconds attesa)
-    : motore_(apriMotore(file, attesa)), dialetto_(colonneConMaiuscole(motore_->connessione())) {}
+    : attesa_(attesa), motore_(apriMotore(file, attesa)),
+      dialetto_(colonneConMaiuscole(motore_->connessione())) {}
 
 Sessione::~Sessione() {
     chiudi();
@@ -136,15 +138,32 @@ std::int32_t Sessione::esegui(std::string_view sql) {
     const std::string tradotta = dialetto_.istruzione(sql);
     const auto pezzi = lessico::spezza(tradotta);
     const bool inserimento = lessico::Lettore(pezzi).e(0, "INSERT");
-    Istruzione istruzione =
-        prepara(tradotta, inserimento ? Operazione::Inserimento : Operazione::Aggiornamento);
-    if (sqlite3_column_count(istruzione.stmt()) > 0)
+    const auto operazione = inserimento ? Operazione::Inserimento : Operazione::Aggiornamento;
+    if (sqlite3_column_count(prepara(tradotta, operazione).stmt()) > 0)
         throw erroreDao(dao::kQueryDiSelezione);
     const int prima = sqlite3_total_changes(db);
-    istruzione.passo();
+    passaRipetendo(tradotta, operazione);
     modificato();
     // What a trigger changes isn't counted, and a statement that changes no rows leaves the old count.
     return sqlite3_total_changes(db) == prima ? 0 : sqlite3_changes(db);
+}
+
+void Sessione::passaRipetendo(const std::string& sql, Operazione operazione) {
+    for (jet::Pazienza pazienza(attesa_);;) {
+        try {
+            prepara(sql, operazione).passo();
+            return;
+        } catch (const Guasto& guasto) {
+            const bool cambiata = guasto.numero() == dao::kCambiatoDaAltri;
+            const bool bloccata = guasto.numero() == dao::kBloccatoAggiornamento ||
+                                  guasto.numero() == dao::kBloccatoSalvataggio;
+            // Inside a transaction a lock was waited for to the end already.
+            const bool ritenta = cambiata || (bloccata && sqlite3_get_autocommit(motore().connessione()));
+            if (!motore().siRipete() || !ritenta || !pazienza.ancora())
+                throw;
+        }
+        pazienza.attendi();
+    }
 }
 
 void Sessione::bloccaRiga(const std::string& tabella, std::int64_t riga) {

@@ -81,6 +81,9 @@ private:
 
     [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione) const;
 
+    void passaRipetendo(const std::string& sql, Operazione operazione);
+
+    std::chrono::milliseconds attesa_;
     std::unique_ptr<Motore> motore_;
     Dialetto dialetto_;
     std::vector<Pronta> pronte_; ///< the latest used first

@@ -87,12 +87,16 @@ TEST_F(Strumento, NonSovrascriveMai) {
     EXPECT_NE(err.str().find("esiste già"), std::string::npos);
     EXPECT_EQ(std::filesystem::file_size(cartella + "/" + kFileArchivio), 8u);
     EXPECT_EQ((*this)({"mostra", cartella}), 1);
-    EXPECT_EQ((*this)({"crea", temporanea.percorso().string(), "--formato", "access"}), 1);
-    EXPECT_FALSE(std::filesystem::exists(temporanea.percorso() / kFileArchivio));
+    EXPECT_EQ((*this)({"crea", cartella, "--formato", "access"}), 1);
+    EXPECT_EQ(std::filesystem::file_size(cartella + "/" + kFileArchivio), 8u);
 }
 
-TEST_F(Strumento, ArchivioDimostrativo) {
-    ASSERT_EQ((*this)({"crea", cartella, "--dimostrativo", "60"}), 0) << err.str();
+class ArchivioDimostrativo : public Strumento, public ::testing::WithParamInterface<const char*> {};
+INSTANTIATE_TEST_SUITE_P(Formati, ArchivioDimostrativo, ::testing::Values("sqlite", "access"));
+
+TEST_P(ArchivioDimostrativo, EIntero) {
+    ASSERT_EQ((*this)({"crea", cartella, "--formato", GetParam(), "--dimostrativo", "60"}), 0) << err.str();
+    EXPECT_EQ((*this)({"verifica", cartella}), 0) << out.str();
     EXPECT_EQ(leggi("Select count(*) from Lumigrafo"), "60");
     // What makes it worth showing: with and without a letter, several departments, highlighted, partly
     // served.

@@ -82,6 +82,8 @@ TEST_F(ClsRecordset, CodiciDiLetturaERicerca) {
 }
 
 TEST_F(ClsRecordset, CampiEConversioni) {
+    if (prova::archiviAccess())
+        GTEST_SKIP() << "no table is made in such an archive";
     archivio.esegui("CREATE TABLE Strana (\"12\" INTEGER, Nome TEXT)");
     rs.Apri("prova", false, "Strana", false, false);
     EXPECT_EQ(rs.QuantiCampi(), 2);
@@ -148,7 +150,7 @@ TEST_F(ClsRecordset, ChiudiSenzaBloccoNonTocceNulla) {
     }
     std::vector<std::string> nomi;
     for (const auto& voce : std::filesystem::directory_iterator(cartella.percorso()))
-        if (!voce.path().filename().string().starts_with(kFileArchivio))
+        if (!voce.path().filename().string().starts_with("archivio.")) // its journal or lock file
             nomi.push_back(voce.path().string());
     EXPECT_TRUE(nomi.empty());
     EXPECT_TRUE(avvisi.mostrati.empty());

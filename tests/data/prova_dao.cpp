@@ -24,8 +24,9 @@ TEST(Apertura, IlTipoSiVedeDaiPrimiByte) {
     scrivi("rotto.mdb", "SQLite format 3\0"s + std::string(4096, 'x'));
     std::filesystem::create_directory(percorso("cartella.mdb"));
     const std::pair<const char*, int> casi[] = {
-        {"manca.mdb", 3024}, {"manca/archivio.mdb", 3044}, {"cartella.mdb", 3051}, {"vuoto.mdb", 3343},
-        {"testo.mdb", 3343}, {"access.mdb", 3343},         {"rotto.mdb", 3343},
+        {"manca.mdb", 3024}, {"manca/archivio.mdb", 3044}, {"cartella.mdb", 3051},
+        {"vuoto.mdb", 3343}, {"testo.mdb", 3343},          {"access.mdb", 3343}, // cut short
+        {"rotto.mdb", 3343},
     };
     Workspace ws;
     for (const auto& [nome, numero] : casi)
@@ -213,8 +214,8 @@ TEST_F(Dao, RigaNuova) {
     rs->Update();
     EXPECT_EQ(
         archivio.leggi("SELECT Categoria1, Categoria4, Pezzi4, Evidenzia FROM Lumigrafo WHERE Sigla = 'E'"),
-        "0|-1|0|0");
-    EXPECT_EQ(corrente(), "A1"); // the current row stays
+        prova::archiviAccess() ? "0|-1|NULL|0" : "0|-1|0|0"); // the table's defaults
+    EXPECT_EQ(corrente(), "A1");                              // the current row stays
     EXPECT_EQ(rs->RecordCount(), 5);
     rs->MoveLast();
     EXPECT_EQ(corrente(), "E15");
@@ -269,6 +270,8 @@ TEST_F(Dao, SenzaLockEditsDecideUpdate) {
 }
 
 TEST_F(Dao, SommeEVisteSiLeggonoSoltanto) {
+    if (prova::archiviAccess())
+        GTEST_SKIP() << "queries kept in such an archive are not read";
     archivio.esegui("CREATE VIEW Aperti AS SELECT Sigla, Numero FROM Lumigrafo");
     for (const char* sorgente :
          {"Select Sigla, count(*) as N from Lumigrafo Group by Sigla Order by Sigla", "Aperti"}) {
@@ -321,6 +324,8 @@ TEST_F(Dao, Transazioni) {
 }
 
 TEST(ArchivioAltrui, TestiSenzaMaiuscole) {
+    if (prova::archiviAccess())
+        GTEST_SKIP() << "there texts always compare so";
     const prova::CartellaTemporanea cartella;
     const auto file = cartella.percorso() / kFileArchivio;
     prova::ArchivioProva archivio(file);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -8,7 +9,14 @@
 
 struct sqlite3;
 
+namespace lumigrafo {
+class Motore;
+}
+
 namespace lumigrafo::prova {
+
+/// Whether the archives of this run are Access's: the environment says LUMIGRAFO_PROVE_ARCHIVIO=access.
+[[nodiscard]] bool archiviAccess();
 
 /// An archive for a test, written and read through a connection of its own, as another station would.
 class ArchivioProva {
@@ -32,7 +40,8 @@ public:
     std::string dataCompetenza = "20260315"; ///< of new orders, yyyymmdd
 
 private:
-    sqlite3* db_ = nullptr;
+    std::unique_ptr<Motore> motore_;
+    sqlite3* db_ = nullptr; ///< the engine's
 };
 
 } // namespace lumigrafo::prova

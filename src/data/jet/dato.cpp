@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <limits>
 
@@ -89,12 +90,19 @@ std::string intero(double n) {
     return byteDi(static_cast<Intero>(r));
 }
 
+std::string cifre(double n) {
+    std::array<char, 32> t{};
+    return {t.data(), std::to_chars(t.data(), t.data() + t.size(), n, std::chars_format::general, 15).ptr};
+}
+
 std::string testo(const Colonna& c, const Dato& dato) {
     std::string t;
     if (const auto* s = std::get_if<std::string>(&dato))
         t = *s;
     else if (const auto* i = std::get_if<std::int64_t>(&dato))
         t = std::to_string(*i);
+    else if (const auto* d = std::get_if<double>(&dato))
+        t = cifre(*d);
     else
         throw erroreDao(dao::kConversione);
     if (2 * aUtf16(t).size() > c.lunghezza)

@@ -1,9 +1,11 @@
 #include "data/jet/ordinamento.h"
 
 #include "data/errori_dao.h"
+#include "data/jet/testo.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace lumigrafo::jet {
@@ -85,14 +87,12 @@ constexpr std::array kAltri = std::to_array<std::pair<char16_t, Peso>>({
 });
 // clang-format on
 
-Peso pesoDi(char16_t c) {
+std::optional<Peso> pesoDi(char16_t c) {
     if (c < kPesi.size())
         return kPesi[c];
     const auto* altro = std::lower_bound(kAltri.begin(), kAltri.end(), c,
                                          [](const auto& voce, char16_t x) { return voce.first < x; });
-    if (altro == kAltri.end() || altro->first != c)
-        throw Guasto(dao::kConversione, "Il testo ha un carattere che l'indice non può contenere.");
-    return altro->second;
+    return altro != kAltri.end() && altro->first == c ? std::optional(altro->second) : std::nullopt;
 }
 
 constexpr char kFineTesto = 1, kSenzaAccento = 2;
@@ -132,15 +132,57 @@ struct Chiave {
     }
 };
 
+std::u16string_view significativo(std::u16string_view testo) {
+    testo = testo.substr(0, kCaratteriMassimi);
+    return testo.substr(0, testo.find_last_not_of(u' ') + 1);
+}
+
+/// For texts that stand in no index: behind 0xFF, which is no weight, a character's own code.
+std::string chiaveTollerante(std::string_view utf8) {
+    Chiave k;
+    for (const char16_t c : significativo(aUtf16(utf8))) {
+        if (const auto peso = pesoDi(c))
+            k.aggiungi(*peso);
+        else
+            k.inLinea.append({'\xFF', static_cast<char>(c >> 8), static_cast<char>(c & 0xFF)});
+    }
+    return k.intera();
+}
+
+/// A letter or figure with one byte of weight and nothing more: such texts compare without their keys.
+bool semplice(char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 } // namespace
 
 std::string chiaveTesto(std::u16string_view testo) {
-    testo = testo.substr(0, kCaratteriMassimi);
-    testo = testo.substr(0, testo.find_last_not_of(u' ') + 1);
     Chiave k;
-    for (const char16_t c : testo)
-        k.aggiungi(pesoDi(c));
+    for (const char16_t c : significativo(testo)) {
+        const auto peso = pesoDi(c);
+        if (!peso)
+            throw Guasto(dao::kConversione, "Il testo ha un carattere che l'indice non può contenere.");
+        k.aggiungi(*peso);
+    }
     return k.intera();
+}
+
+int confronta(std::string_view a, std::string_view b) {
+    const std::size_t n = std::min(a.size(), b.size());
+    for (std::size_t i = 0; i < n; ++i) {
+        if (!semplice(a[i]) || !semplice(b[i]))
+            return chiaveTollerante(a).compare(chiaveTollerante(b));
+        const int differenza =
+            kPesi[static_cast<unsigned char>(a[i])].primo - kPesi[static_cast<unsigned char>(b[i])].primo;
+        if (differenza != 0)
+            return differenza;
+    }
+    if (a.size() == b.size())
+        return 0;
+    const char seguente = a.size() > n ? a[n] : b[n];
+    if (!semplice(seguente))
+        return chiaveTollerante(a).compare(chiaveTollerante(b));
+    return a.size() > n ? 1 : -1;
 }
 
 } // namespace lumigrafo::jet

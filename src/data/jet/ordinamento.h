@@ -14,4 +14,8 @@ inline constexpr std::uint32_t kOrdineGenerale = 0x0409;
 /// trailing blanks are dropped. Throws Guasto 3421 for a character outside Windows-1252.
 [[nodiscard]] std::string chiaveTesto(std::u16string_view testo);
 
+/// Compares two UTF-8 texts in that order: below 0, 0, above 0. Characters that have no place in it come
+/// last, by their codes.
+[[nodiscard]] int confronta(std::string_view a, std::string_view b);
+
 } // namespace lumigrafo::jet

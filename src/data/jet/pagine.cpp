@@ -28,7 +28,7 @@ FileCondiviso apriFile(const std::filesystem::path& file, Pagine::Apertura& aper
 } // namespace
 
 Pagine::Pagine(const std::filesystem::path& file, Apertura apertura)
-    : apertura_(std::move(apertura)), file_(apriFile(file, apertura_)) {
+    : apertura_(std::move(apertura)), attesa_(apertura_.attesa), file_(apriFile(file, apertura_)) {
     const std::uint64_t lunghezza = file_.lunghezza();
     if (lunghezza < 3 * kPagina)
         throw nonLetto("Il file è troppo corto per un archivio di Access.");

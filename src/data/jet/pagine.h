@@ -64,6 +64,22 @@ public:
     /// The same as a change of its own.
     void riserva(std::uint32_t numero);
 
+    /// While it lives, `cambia` waits for other stations at most a twentieth of the whole wait.
+    class AttesaBreve {
+    public:
+        AttesaBreve(Pagine& pagine, bool vale) : pagine_(pagine), prima_(pagine.attesa_) {
+            if (vale)
+                pagine_.attesa_ = prima_ / 20;
+        }
+        ~AttesaBreve() { pagine_.attesa_ = prima_; }
+        AttesaBreve(const AttesaBreve&) = delete;
+        AttesaBreve& operator=(const AttesaBreve&) = delete;
+
+    private:
+        Pagine& pagine_;
+        std::chrono::milliseconds prima_;
+    };
+
     /// What the transaction has changed up to a moment.
     struct Segno {
         std::map<std::uint32_t, PaginaLetta> cambiate;
@@ -94,6 +110,7 @@ private:
     [[nodiscard]] unsigned utente() const { return stazione_ ? stazione_->utente() : 0; }
 
     Apertura apertura_;
+    std::chrono::milliseconds attesa_; ///< for pages that another station holds
     FileCondiviso file_;
     Intestazione intestazione_;
     std::unique_ptr<Stazione> stazione_; ///< none for who reads only or works alone
@@ -122,7 +139,7 @@ template <typename Cambio>
 auto Pagine::cambia(Cambio&& cambio) {
     const Segno prima = segno();
     const std::set<std::uint32_t> nostre = bloccate();
-    for (Pazienza pazienza(apertura_.attesa);;) {
+    for (Pazienza pazienza(attesa_);;) {
         try {
             aggiorna();
             auto esito = cambio();

@@ -63,7 +63,8 @@ const Definizione& Tabella::definizione() {
 
 void Tabella::riserva(Posizione posizione) {
     pagine_.cambia([&] {
-        pagine_.bloccaPagina(rigaViva(posizione).vera.pagina);
+        if (const auto r = riga(posizione))
+            pagine_.bloccaPagina(r->vera.pagina);
         pagine_.bloccaPagina(posizione.pagina);
         return true;
     });
@@ -77,10 +78,12 @@ void Tabella::verificaScrivibile() {
                                                 "tabella si può solo leggere.");
 }
 
-RigaGrezza Tabella::rigaViva(Posizione posizione) {
+RigaGrezza Tabella::rigaViva(Posizione posizione, std::optional<Vista> attesa) {
     auto r = riga(posizione);
     if (!r)
         throw erroreDao(dao::kRecordEliminato);
+    if (attesa && attesa->testo() != r->byte.testo())
+        throw erroreDao(dao::kCambiatoDaAltri);
     return std::move(*r);
 }
 
@@ -139,10 +142,10 @@ Posizione Tabella::inserisci(const Campi& campi) {
     });
 }
 
-void Tabella::aggiorna(Posizione posizione, const Modifiche& modifiche) {
+void Tabella::aggiorna(Posizione posizione, const Modifiche& modifiche, std::optional<Vista> attesa) {
     pagine_.cambia([&] {
         verificaScrivibile();
-        const RigaGrezza vecchia = rigaViva(posizione);
+        const RigaGrezza vecchia = rigaViva(posizione, attesa);
         Campi campi = Riga(definizione_, vecchia.byte).campi();
         const Chiavi prima = chiaviDi(campi);
         for (const auto& [colonna, byte] : modifiche)
@@ -158,11 +161,11 @@ void Tabella::aggiorna(Posizione posizione, const Modifiche& modifiche) {
     });
 }
 
-void Tabella::elimina(Posizione posizione) {
+void Tabella::elimina(Posizione posizione, std::optional<Vista> attesa) {
     pagine_.cambia([&] {
         pagine_.bloccaPagina(numero_);
         verificaScrivibile();
-        const RigaGrezza vecchia = rigaViva(posizione);
+        const RigaGrezza vecchia = rigaViva(posizione, attesa);
         const Chiavi prima = chiaviDi(Riga(definizione_, vecchia.byte).campi());
         if (vecchia.vera != posizione)
             togliByte(vecchia.vera);

@@ -35,23 +35,24 @@ public:
 
     /// Keeps other stations of this kind from changing the table until the transaction ends.
     void riserva() { pagine_.riserva(definizione().pagina); }
-    /// Locks the page of a row for the rest of the transaction. Throws Guasto 3167 where the row is gone.
+    /// Locks the page of a row, whether or not it is still there, for the rest of the transaction.
     void riserva(Posizione posizione);
 
     /// `campi` by place in Definizione::colonne. A null autonumber is given the next value.
     Posizione inserisci(const Campi& campi);
     /// Columns to be changed, and their new bytes.
     using Modifiche = std::vector<std::pair<std::size_t, std::optional<std::string>>>;
-    /// The other columns keep what the row holds at that moment. Throws Guasto 3167 where the row is gone.
-    void aggiorna(Posizione posizione, const Modifiche& modifiche);
-    /// Throws Guasto 3167 where the row is gone.
-    void elimina(Posizione posizione);
+    /// The other columns keep what the row holds at that moment. `attesa`: the row as the caller read it.
+    /// Throws Guasto 3167 where the row is gone, 3197 where it isn't as the caller read it.
+    void aggiorna(Posizione posizione, const Modifiche& modifiche, std::optional<Vista> attesa = {});
+    /// Throws as `aggiorna`.
+    void elimina(Posizione posizione, std::optional<Vista> attesa = {});
 
 private:
     using Chiavi = std::vector<std::optional<std::string>>; ///< of a row, one for each index
 
     void verificaScrivibile();
-    [[nodiscard]] RigaGrezza rigaViva(Posizione posizione);
+    [[nodiscard]] RigaGrezza rigaViva(Posizione posizione, std::optional<Vista> attesa = {});
     [[nodiscard]] Chiavi chiaviDi(const Campi& campi) const;
     void verificaVincoli(const Campi& campi, const Chiavi& nuove, const Chiavi& vecchie, Posizione propria);
     void daiContatore(Campi& campi);

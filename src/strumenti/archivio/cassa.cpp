@@ -6,6 +6,8 @@ namespace lumigrafo::archivio {
 
 namespace {
 
+constexpr int kCategorie = 10;
+
 /// Open to add rows, without the rows that are there.
 std::unique_ptr<Recordset> perAggiungere(Database& db, const std::string& tabella) {
     return db.OpenRecordset("Select * from " + tabella + " Where Numero < 0");
@@ -55,6 +57,8 @@ void Cassa::registra(const Ordine& ordine) {
 
 void Cassa::scriviCoda(const Ordine& ordine) {
     nuova(*coda_, ordine);
+    for (int codice = 1; codice <= kCategorie; ++codice) // a null would make the sum of pieces null
+        coda_->Fields()["Pezzi" + std::to_string(codice)].Value(0);
     for (const Voce& voce : ordine.voci) {
         const std::string codice = std::to_string(voce.categoria);
         coda_->Fields()["Categoria" + codice].Value(!servita(voce));

@@ -1,9 +1,9 @@
+#include "platform/linux/orologio.h"
+#include "strumenti/archivio/programma.h"
+
 #include <iostream>
 #include <string>
 #include <vector>
-
-#include "platform/linux/orologio.h"
-#include "strumenti/archivio/programma.h"
 
 int main(int argc, char** argv) {
     const std::vector<std::string> argomenti(argv + (argc > 0 ? 1 : 0), argv + argc);

@@ -59,14 +59,10 @@ public:
         return kFatto;
     }
     int operator()(const Crea& c) {
-        if (c.access)
-            throw Guasto(dao::kFormato,
-                         "Il formato access non è ancora disponibile in questa versione: usare "
-                         "--formato sqlite.");
         const std::string file = percorso(c.cartella);
         std::error_code ec;
         std::filesystem::create_directories(c.cartella, ec); // a failure shows itself when the file is made
-        creaArchivio(file);
+        creaArchivio(file, c.access ? Formato::Access : Formato::Sqlite);
         riempi(file, c.dimostrativo);
         out_ << "Creato l'archivio " << file << ".\n";
         return kFatto;
@@ -107,6 +103,7 @@ private:
             std::error_code ec;
             for (const char* coda : {"", "-journal"})
                 std::filesystem::remove(file + coda, ec);
+            std::filesystem::remove(std::filesystem::path(file).replace_extension(".ldb"), ec);
             throw;
         }
     }

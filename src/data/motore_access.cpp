@@ -1,0 +1,89 @@
+#include "data/motore_access.h"
+
+#include "data/errori_dao.h"
+#include "data/jet/tabella.h"
+#include "platform/computer.h"
+
+#include <sqlite3.h>
+
+namespace lumigrafo {
+
+namespace {
+
+/// Rows are read and written; nothing is ever made but them. What SQLite made would be in its memory alone.
+int permesso(void*, int azione, const char*, const char*, const char*, const char*) {
+    switch (azione) {
+    case SQLITE_SELECT:
+    case SQLITE_READ:
+    case SQLITE_FUNCTION:
+    case SQLITE_RECURSIVE:
+    case SQLITE_INSERT:
+    case SQLITE_UPDATE:
+    case SQLITE_DELETE:
+    case SQLITE_TRANSACTION:
+    case SQLITE_SAVEPOINT:
+    case SQLITE_PRAGMA:
+        return SQLITE_OK;
+    default:
+        return SQLITE_DENY;
+    }
+}
+
+} // namespace
+
+MotoreAccess::MotoreAccess(const std::filesystem::path& file, std::chrono::milliseconds attesa)
+    : pagine_(file, {.computer = nomeComputer(), .attesa = attesa}), tabelle_(pagine_) {
+    // The tables are the file's; nothing of them is kept in this memory.
+    const int esito = sqlite3_open_v2(":memory:", &db_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    try {
+        if (esito != SQLITE_OK)
+            throw erroreDao(dao::kPermesso, file.string());
+        sqlite3_extended_result_codes(db_, 1);
+        tabelle_.crea(db_);
+        sqlite3_set_authorizer(db_, permesso, nullptr);
+    } catch (...) {
+        sqlite3_close_v2(db_);
+        throw;
+    }
+}
+
+MotoreAccess::~MotoreAccess() {
+    sqlite3_close_v2(db_);
+}
+
+void MotoreAccess::blocca(const std::string& tabella, std::int64_t riga) {
+    if (blocchi_ == 0 && sqlite3_exec(db_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
+        throw erroreSqlite(db_, Operazione::Aggiornamento);
+    ++blocchi_;
+    if (tabella.empty()) // a transaction, no row
+        return;
+    try {
+        jet::Tabella(pagine_, tabelle_.definizioneDi(tabella)).riserva(TabelleVirtuali::posizione(riga));
+    } catch (const Guasto&) {
+        if (blocchi_ == 1)
+            annulla();
+        else
+            --blocchi_;
+        throw;
+    }
+}
+
+void MotoreAccess::sblocca() {
+    if (blocchi_ == 0 || --blocchi_ > 0)
+        return;
+    if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
+        const Guasto guasto = erroreSqlite(db_, Operazione::Aggiornamento);
+        annulla();
+        throw guasto;
+    }
+    pagine_.abbandona(); // locks of rows that were not changed
+}
+
+void MotoreAccess::annulla() noexcept {
+    if (sqlite3_get_autocommit(db_) == 0)
+        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
+    pagine_.abbandona();
+    blocchi_ = 0;
+}
+
+} // namespace lumigrafo

@@ -1,0 +1,62 @@
+#include "data/tabella_virtuale.h"
+
+#include "data/errori_dao.h"
+#include "data/guasto_sqlite.h"
+#include "data/jet/ordinamento.h"
+#include "data/lessico.h"
+#include "data/modulo_access.h"
+
+#include <sqlite3.h>
+
+namespace lumigrafo {
+
+namespace {
+
+constexpr const char* kModulo = "access";
+
+int confrontaTesti(void*, int lungaA, const void* a, int lungaB, const void* b) {
+    return jet::confronta({static_cast<const char*>(a), static_cast<std::size_t>(lungaA)},
+                          {static_cast<const char*>(b), static_cast<std::size_t>(lungaB)});
+}
+
+} // namespace
+
+void TabelleVirtuali::crea(sqlite3* db) {
+    db_ = db;
+    sqlite3_create_collation(db, kConfrontoAccess, SQLITE_UTF8, nullptr, confrontaTesti);
+    sqlite3_create_module(db, kModulo, moduloAccess(), this);
+    voci_ = pagine_.coerente([this] { return leggiCatalogo(pagine_); });
+    for (const jet::VoceCatalogo& voce : voci_) {
+        if (voce.sistema || voce.definizione == 0)
+            continue;
+        const std::string sql = "CREATE VIRTUAL TABLE " + lessico::traVirgolette(voce.nome) + " USING " +
+                                kModulo + '(' + std::to_string(voce.definizione) + ')';
+        if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+            throw erroreSqlite(db, Operazione::Apertura);
+    }
+}
+
+std::uint32_t TabelleVirtuali::definizioneDi(const std::string& tabella) const {
+    for (const jet::VoceCatalogo& voce : voci_)
+        if (voce.definizione != 0 && jet::stessoNome(voce.nome, tabella))
+            return voce.definizione;
+    throw erroreDao(dao::kTabellaMancante, tabella);
+}
+
+jet::Pagine::AttesaBreve TabelleVirtuali::attesaDiUnPasso() {
+    return {pagine_, sqlite3_get_autocommit(db_) != 0};
+}
+
+void TabelleVirtuali::tornaA(int punto) {
+    if (const auto segno = segni_.find(punto); segno != segni_.end())
+        pagine_.tornaA(segno->second);
+    segni_.erase(segni_.upper_bound(punto), segni_.end());
+}
+
+jet::Posizione TabelleVirtuali::posizione(std::int64_t chiave) {
+    if (chiave < 0 || chiave > UINT32_MAX)
+        throw erroreDao(dao::kRecordEliminato);
+    return jet::Posizione::da(static_cast<std::uint32_t>(chiave));
+}
+
+} // namespace lumigrafo
