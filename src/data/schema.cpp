@@ -98,10 +98,16 @@ void creaArchivio(const std::filesystem::path& file, Formato formato) {
     try {
         formato == Formato::Access ? riempiAccess(file) : riempiSqlite(file);
     } catch (const Guasto&) {
-        std::error_code ec;
-        std::filesystem::remove(file, ec);
+        eliminaArchivio(file);
         throw;
     }
+}
+
+void eliminaArchivio(const std::filesystem::path& file) noexcept {
+    std::error_code ec;
+    std::filesystem::remove(file, ec);
+    std::filesystem::remove(std::filesystem::path(file) += "-journal", ec);
+    std::filesystem::remove(std::filesystem::path(file).replace_extension(".ldb"), ec);
 }
 
 } // namespace lumigrafo

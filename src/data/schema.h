@@ -11,4 +11,7 @@ namespace lumigrafo {
 /// where it can't be written.
 void creaArchivio(const std::filesystem::path& file, Formato formato = Formato::Sqlite);
 
+/// Deletes an archive and the files that its engine keeps beside it; one that failed to be made.
+void eliminaArchivio(const std::filesystem::path& file) noexcept;
+
 } // namespace lumigrafo

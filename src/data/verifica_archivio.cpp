@@ -2,8 +2,12 @@
 
 #include "data/errori_dao.h"
 #include "data/formato.h"
+#include "data/jet/ripara.h"
 #include "data/jet/verifica.h"
+#include "data/motore.h"
+#include "platform/computer.h"
 
+#include <chrono>
 #include <memory>
 #include <sqlite3.h>
 
@@ -41,6 +45,25 @@ EsitoVerifica verificaAccess(const std::filesystem::path& file) {
 }
 
 } // namespace
+
+std::vector<std::string> riparaArchivio(const std::filesystem::path& file,
+                                        const std::filesystem::path& copia) {
+    const Formato formato = formatoDi(file);
+    std::error_code ec;
+    if (!std::filesystem::copy_file(file, copia, std::filesystem::copy_options::overwrite_existing, ec))
+        throw erroreDao(dao::kPermesso, copia.string());
+    if (formato == Formato::Access) {
+        jet::Pagine pagine(file, {.computer = nomeComputer()});
+        if (pagine.altreStazioni())
+            throw erroreDao(dao::kInUso, file.string());
+        return jet::ripara(pagine);
+    }
+    const std::unique_ptr<Motore> motore = apriMotore(file, std::chrono::milliseconds(0));
+    if (sqlite3_exec(motore->connessione(), "BEGIN EXCLUSIVE; REINDEX; COMMIT", nullptr, nullptr, nullptr) !=
+        SQLITE_OK)
+        throw erroreSqlite(motore->connessione(), Operazione::Apertura);
+    return {"Rifatti tutti gli indici."};
+}
 
 EsitoVerifica verificaArchivio(const std::filesystem::path& file) {
     return formatoDi(file) == Formato::Sqlite ? verificaSqlite(file) : verificaAccess(file);

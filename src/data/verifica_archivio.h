@@ -16,4 +16,9 @@ struct EsitoVerifica {
 /// Guasto where it can't be opened.
 [[nodiscard]] EsitoVerifica verificaArchivio(const std::filesystem::path& file);
 
+/// Mends an archive that nobody else has open; a copy of it as it was stays beside it (`copia`). Returns what
+/// was done, a line each. Throws Guasto 3045 where another station has it open, and where it is past mending.
+[[nodiscard]] std::vector<std::string> riparaArchivio(const std::filesystem::path& file,
+                                                      const std::filesystem::path& copia);
+
 } // namespace lumigrafo

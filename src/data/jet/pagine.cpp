@@ -112,6 +112,13 @@ bool Pagine::immutata() const {
     return ora == parole_;
 }
 
+bool Pagine::altreStazioni() const {
+    for (unsigned u = 1; u <= Stazione::kMassimo; ++u)
+        if (stazione_ && stazione_->presente(u))
+            return true;
+    return false;
+}
+
 std::vector<unsigned> Pagine::sospette() const {
     Parole ora;
     leggiParole(ora);

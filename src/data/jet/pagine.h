@@ -50,6 +50,10 @@ public:
     auto coerente(Lettura&& lettura);
     /// Words in the state "writing" or "damaged" whose station is gone: the archive may be half written.
     [[nodiscard]] std::vector<unsigned> sospette() const;
+    /// Takes such a word back to where all begin: the archive was mended.
+    void assolvi(unsigned utente);
+    /// Whether another station has the archive open.
+    [[nodiscard]] bool altreStazioni() const;
 
     /// One change of the transaction, whole or not at all. It is planned on the present state and planned
     /// again where another station wrote or holds a page; after the wait Guasto 3218 names that station.
@@ -98,7 +102,7 @@ private:
     struct StatoVecchio {}; ///< another station committed while a change was being planned
 
     void leggiParole(Parole& parole) const;
-    void scriviParola(std::uint16_t parola);
+    void scriviParola(unsigned utente, std::uint16_t parola);
     [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
     void svuota();
     [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;

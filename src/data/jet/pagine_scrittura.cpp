@@ -89,10 +89,14 @@ void Pagine::scrivi(std::uint32_t numero, const Pagina& pagina) {
     file_.scrivi(std::uint64_t{numero} * kPagina, pagina.byte);
 }
 
-void Pagine::scriviParola(std::uint16_t parola) {
+void Pagine::scriviParola(unsigned utente, std::uint16_t parola) {
     const std::uint8_t byte[] = {static_cast<std::uint8_t>(parola), static_cast<std::uint8_t>(parola >> 8)};
-    file_.scrivi(kParoleCommit + 2 * utente(), byte);
+    file_.scrivi(kParoleCommit + 2 * utente, byte);
     file_.consolida();
+}
+
+void Pagine::assolvi(unsigned utente) {
+    scriviParola(utente, Parole::kPrima);
 }
 
 std::vector<std::uint32_t> Pagine::ordineDiScrittura() const {
@@ -130,17 +134,17 @@ void Pagine::registra() {
     Parole prima;
     leggiParole(prima);
     const std::uint16_t parola = prima.di(utente());
-    scriviParola(Parole::kScrive);
+    scriviParola(utente(), Parole::kScrive);
     try {
         scriviPagine(ordineDiScrittura());
     } catch (const Guasto&) {
         // Where not even this goes through, the word stays at "writing" and tells that the archive is
         // suspect.
-        ignorandoGuasti([&] { scriviParola(parola); });
+        ignorandoGuasti([&] { scriviParola(utente(), parola); });
         abbandona();
         throw;
     }
-    scriviParola(Parole::successiva(parola));
+    scriviParola(utente(), Parole::successiva(parola));
 
     const auto nuove = std::exchange(cambiate_, {});
     Parole attese = parole_;

@@ -55,15 +55,20 @@ void richiedeCartella(const std::string& cartella, const std::string& comando) {
         throw ErroreDiUso("Manca la cartella: " + comando + " CARTELLA.");
 }
 
+/// The value of --formato.
+bool leggiFormato(Parole& parole) {
+    const std::string& formato = parole.valoreDi("--formato");
+    if (formato != "sqlite" && formato != "access")
+        throw ErroreDiUso("Formato sconosciuto: '" + formato + "'. I formati sono sqlite e access.");
+    return formato == "access";
+}
+
 Crea leggiCrea(Parole& parole) {
     Crea c;
     while (!parole.finite()) {
         const std::string& p = parole.prossima();
         if (p == "--formato") {
-            const std::string& formato = parole.valoreDi(p);
-            if (formato != "sqlite" && formato != "access")
-                throw ErroreDiUso("Formato sconosciuto: '" + formato + "'. I formati sono sqlite e access.");
-            c.access = formato == "access";
+            c.access = leggiFormato(parole);
         } else if (p == "--dimostrativo") {
             c.dimostrativo = numeroFra(parole.valoreDi(p), 1, kMassimoOrdini, "--dimostrativo");
         } else {
@@ -122,6 +127,23 @@ AggiungiOrdine leggiOrdine(Parole& parole) {
     return a;
 }
 
+Converti leggiConverti(Parole& parole) {
+    Converti c;
+    bool formato = false;
+    while (!parole.finite()) {
+        const std::string& p = parole.prossima();
+        if (p == "--formato") {
+            c.access = leggiFormato(parole);
+            formato = true;
+        } else {
+            prendiCartella(c.da.empty() ? c.da : c.a, p);
+        }
+    }
+    if (c.da.empty() || c.a.empty() || !formato)
+        throw ErroreDiUso("La chiamata è: converti CARTELLA CARTELLA-NUOVA --formato sqlite|access.");
+    return c;
+}
+
 /// A command that takes the folder and nothing else.
 template <typename Comando>
 Comando leggiCartella(Parole& parole, const std::string& nome) {
@@ -154,6 +176,10 @@ Comando leggiArgomenti(const std::vector<std::string>& argomenti) {
         return leggiCartella<Mostra>(parole, comando);
     if (comando == "verifica")
         return leggiCartella<Verifica>(parole, comando);
+    if (comando == "ripara")
+        return leggiCartella<Ripara>(parole, comando);
+    if (comando == "converti")
+        return leggiConverti(parole);
     throw ErroreDiUso("Comando sconosciuto: '" + comando + "'.");
 }
 

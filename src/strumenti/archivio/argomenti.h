@@ -28,7 +28,14 @@ struct Mostra {
 struct Verifica {
     std::string cartella;
 };
-using Comando = std::variant<Aiuto, Versione, Crea, AggiungiOrdine, Mostra, Verifica>;
+struct Ripara {
+    std::string cartella;
+};
+struct Converti {
+    std::string da, a;
+    bool access = false;
+};
+using Comando = std::variant<Aiuto, Versione, Crea, AggiungiOrdine, Mostra, Verifica, Ripara, Converti>;
 
 using strumenti::ErroreDiUso;
 

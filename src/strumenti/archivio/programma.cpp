@@ -5,6 +5,7 @@
 #include "platform/guasto.h"
 #include "strumenti/archivio/argomenti.h"
 #include "strumenti/archivio/codice_scontrino.h"
+#include "strumenti/archivio/converti.h"
 #include "strumenti/archivio/dimostrativo.h"
 #include "strumenti/archivio/mostra.h"
 
@@ -35,6 +36,10 @@ Comandi:
     --evidenzia               ordine da evidenziare
   mostra CARTELLA    stampa gli ordini in coda
   verifica CARTELLA  legge tutto l'archivio e dice che cosa non torna
+  ripara CARTELLA    rimette a posto un archivio, a programmi chiusi; com'era resta in
+                     archivio-prima-della-riparazione.mdb
+  converti CARTELLA CARTELLA-NUOVA --formato sqlite|access
+                     copia le tabelle in un archivio nuovo dell'altro tipo
 
   --help             stampa questo testo
   --version          stampa la versione
@@ -90,6 +95,21 @@ public:
         out_ << "L'archivio è in ordine.\n";
         return kFatto;
     }
+    int operator()(const Ripara& r) {
+        const auto copia = std::filesystem::path(r.cartella) / "archivio-prima-della-riparazione.mdb";
+        const auto fatto = riparaArchivio(percorso(r.cartella), copia);
+        for (const std::string& riga : fatto)
+            out_ << riga << '\n';
+        if (fatto.empty())
+            out_ << "Non c'era niente da riparare.\n";
+        return kFatto;
+    }
+    int operator()(const Converti& c) {
+        std::error_code ec;
+        std::filesystem::create_directories(c.a, ec);
+        converti(percorso(c.da), percorso(c.a), c.access ? Formato::Access : Formato::Sqlite, out_);
+        return kFatto;
+    }
 
 private:
     void riempi(const std::string& file, int ordini) {
@@ -100,10 +120,7 @@ private:
             scriviOrdini(*db, ordini, dataCompetenza(orologio_.adesso()));
             ws_.CommitTrans();
         } catch (const Guasto&) {
-            std::error_code ec;
-            for (const char* coda : {"", "-journal"})
-                std::filesystem::remove(file + coda, ec);
-            std::filesystem::remove(std::filesystem::path(file).replace_extension(".ldb"), ec);
+            eliminaArchivio(file);
             throw;
         }
     }
