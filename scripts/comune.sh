@@ -16,7 +16,7 @@ pacchetti_costruzione=(g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-
 pacchetti_uso=(libqt6svg6 qt6-speech-speechd-plugin speech-dispatcher speech-dispatcher-espeak-ng
   speech-dispatcher-audio-plugins espeak-ng fonts-liberation fonts-dejavu-core fonts-comic-neue fonts-roboto fonts-lato
   fonts-open-sans)
-pacchetti_prova=(libgtest-dev libgmock-dev xvfb xauth openbox x11-xserver-utils x11-utils xdotool imagemagick
+pacchetti_prova=(libgtest-dev libgmock-dev mdbtools xvfb xauth openbox x11-xserver-utils x11-utils xdotool imagemagick
   sqlite3 pulseaudio pulseaudio-utils)
 
 # Installs the packages that are missing; with none missing it asks the package manager nothing.

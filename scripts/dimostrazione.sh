@@ -3,6 +3,7 @@
 casa=$radice/demo
 programma=$radice/build/demo/bin/lumigrafo
 archivio=$radice/build/demo/bin/lumigrafo-archivio
+formato_archivio=sqlite
 
 # Builds, and makes the folder anew but for its settings. Receipts to scan go to `scontrini`.
 prepara_dimostrazione() {
@@ -14,7 +15,7 @@ prepara_dimostrazione() {
   dico "Making an evening's orders in $casa"
   rm -rf "$casa"/archivio "$casa"/{VideataLumigrafo,UltimiChiamati}.ini "$casa"/*.png
   [ -e "$casa/Lumigrafo.ini" ] || scrivi_impostazioni >"$casa/Lumigrafo.ini"
-  "$archivio" crea "$casa/archivio" --dimostrativo 60
+  "$archivio" crea "$casa/archivio" --formato "$formato_archivio" --dimostrativo 60
   scontrini=()
   local categoria
   for categoria in 2 3 1; do

@@ -1,9 +1,11 @@
 // What the archive costs, beside the same statements on the bare engine.
 #include "data/cls_recordset.h"
 #include "data/istruzioni.h"
+#include "data/motore.h"
 #include "data/schema.h"
 
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <sqlite3.h>
@@ -17,18 +19,19 @@ namespace {
 /// An archive with that many orders in the queue, gone with the object.
 class Archivio {
 public:
-    explicit Archivio(int ordini) {
+    explicit Archivio(int ordini, Formato formato = Formato::Sqlite) {
         std::filesystem::remove_all(cartella);
         std::filesystem::create_directory(cartella);
-        creaArchivio(file());
+        creaArchivio(file(), formato);
         Workspace ws;
         const auto db = ws.OpenDatabase(file());
         ws.BeginTrans();
         for (int i = 1; i <= ordini; ++i)
             db->Execute(
-                "INSERT INTO Lumigrafo (Sigla, Numero, Categoria1, Categoria3, Pezzi1, Pezzi3) VALUES ('" +
+                "INSERT INTO Lumigrafo (Sigla, Numero, Categoria1, Categoria3, Pezzi1, Pezzi2, Pezzi3, Pezzi4, "
+                "Pezzi5, Pezzi6, Pezzi7, Pezzi8, Pezzi9, Pezzi10) VALUES ('" +
                 std::string(1, static_cast<char>('A' + i * 7 % 5)) + "'," + std::to_string(i) + ",-1,-1," +
-                std::to_string(i % 9 + 1) + ",2)");
+                std::to_string(i % 9 + 1) + ",0,2,0,0,0,0,0,0,0)");
         ws.CommitTrans();
     }
     ~Archivio() { std::filesystem::remove_all(cartella); }
@@ -112,8 +115,9 @@ void leggiNudo(benchmark::State& stato) {
     }
 }
 
+template <Formato formato>
 void leggiCampi(benchmark::State& stato) {
-    const Archivio archivio(static_cast<int>(stato.range(0)));
+    const Archivio archivio(static_cast<int>(stato.range(0)), formato);
     Programma p(archivio);
     for (auto _ : stato) {
         std::int64_t somma = 0;
@@ -179,8 +183,9 @@ void depennaNudo(benchmark::State& stato) {
     }
 }
 
+template <Formato formato>
 void depenna(benchmark::State& stato) {
-    const Archivio archivio(static_cast<int>(stato.range(0)));
+    const Archivio archivio(static_cast<int>(stato.range(0)), formato);
     Programma p(archivio);
     clsRecordset rs(p.contesto);
     rs.Apri("bench", false, istruzioni::kLumigrafo, false, false);
@@ -196,12 +201,53 @@ void depenna(benchmark::State& stato) {
     }
 }
 
+/// Another reader of such files, a process that prints the same table.
+void leggiMdbExport(benchmark::State& stato) {
+    const Archivio archivio(static_cast<int>(stato.range(0)), Formato::Access);
+    const std::string comando = "mdb-export " + archivio.file() + " Lumigrafo >/dev/null";
+    for (auto _ : stato)
+        if (std::system(comando.c_str()) != 0)
+            stato.SkipWithError("mdb-export failed");
+}
+
+/// One row found by its index, of ever larger tables.
+void cercaAccess(benchmark::State& stato) {
+    const Archivio archivio(static_cast<int>(stato.range(0)), Formato::Access);
+    const auto motore = apriMotore(archivio.file(), std::chrono::seconds(1));
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(motore->connessione(),
+                       "SELECT Pezzi1 FROM Lumigrafo WHERE Sigla = 'C' AND Numero = 101", -1, &s, nullptr);
+    for (auto _ : stato) {
+        if (sqlite3_step(s) != SQLITE_ROW)
+            stato.SkipWithError("order not found");
+        sqlite3_reset(s);
+    }
+    sqlite3_finalize(s);
+}
+
 } // namespace
 
 BENCHMARK(leggiNudo)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(leggiCampi)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(leggiCampi<Formato::Sqlite>)
+    ->Name("leggiCampi")
+    ->Arg(1000)
+    ->Arg(5000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(leggiCampi<Formato::Access>)
+    ->Name("leggiCampiAccess")
+    ->Arg(500)
+    ->Arg(5000)
+    ->Arg(50000)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(leggiMdbExport)->Arg(5000)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(cercaAccess)->Arg(500)->Arg(5000)->Arg(50000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(leggiPerNome)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(depennaNudo)->Arg(1000)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(depenna)->Arg(1000)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(depenna<Formato::Sqlite>)->Name("depenna")->Arg(1000)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(depenna<Formato::Access>)
+    ->Name("depennaAccess")
+    ->Arg(1000)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime();
 
 BENCHMARK_MAIN();

@@ -269,5 +269,59 @@ TEST_P(JetModifica, UnaScritturaAMetaSiRipara) {
     EXPECT_GT(discordi, 0);
 }
 
+/// Damage of many kinds: a few bits, a page of rubbish, a page in another's place, an end cut off.
+void danneggia(std::string& byte, std::mt19937& caso) {
+    const std::size_t pagine = byte.size() / kPagina;
+    char* const pagina = byte.data() + caso() % pagine * kPagina;
+    switch (caso() % 5) {
+    case 0:
+        for (int i = 0; i < 20; ++i)
+            byte[caso() % byte.size()] ^= static_cast<char>(1 << caso() % 8);
+        break;
+    case 1:
+        for (int i = 0; i < 12; ++i)
+            pagina[caso() % 64] = static_cast<char>(caso());
+        break;
+    case 2:
+        std::generate_n(pagina, kPagina, [&] { return static_cast<char>(caso()); });
+        break;
+    case 3:
+        std::copy_n(byte.data() + caso() % pagine * kPagina, kPagina, pagina);
+        break;
+    default:
+        byte.resize(caso() % byte.size());
+    }
+}
+
+TEST_P(JetModifica, UnFileDanneggiatoDaUnGuastoENientAltro) {
+    std::mt19937 caso(41);
+    {
+        Pagine pagine(file, {});
+        Lavoro lavoro(pagine, tabella, 8);
+        for (int k = 0; k < 150; ++k)
+            lavoro.passo(8);
+        pagine.registra();
+    }
+    const std::string buono = byte();
+    int rifiutati = 0;
+    for (int prova = 0; prova < 150; ++prova) {
+        std::string rotto = buono;
+        danneggia(rotto, caso);
+        std::ofstream(file, std::ios::binary) << rotto;
+        const bool letto = ignorandoGuasti([&] {
+            Pagine pagine(file, {.attesa = std::chrono::milliseconds(20)});
+            (void)verifica(pagine);
+            Tabella t(pagine, definizioneDi(pagine, tabella));
+            for (const RigaTrovata& r : t.righe())
+                if (caso() % 4 == 0)
+                    t.elimina(r.posizione);
+            (void)ripara(pagine);
+        });
+        rifiutati += letto ? 0 : 1;
+    }
+    EXPECT_GT(rifiutati, 0);
+    EXPECT_LT(rifiutati, 150);
+}
+
 } // namespace
 } // namespace lumigrafo::jet
