@@ -135,7 +135,7 @@ void Recordset::scriviNuovo() {
                                            Operazione::Inserimento);
     for (std::size_t i = 0; i < valori.size(); ++i)
         scrive.lega(static_cast<int>(i) + 1, *valori[i]);
-    scrive.passo();
+    sessione_->ripetendo([&] { scrive.passo(); });
     sessione_->modificato();
     lascia();
     const std::int64_t chiave = sqlite3_last_insert_rowid(sessione_->motore().connessione());

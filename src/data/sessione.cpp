@@ -142,17 +142,16 @@ std::int32_t Sessione::esegui(std::string_view sql) {
     if (sqlite3_column_count(prepara(tradotta, operazione).stmt()) > 0)
         throw erroreDao(dao::kQueryDiSelezione);
     const int prima = sqlite3_total_changes(db);
-    passaRipetendo(tradotta, operazione);
+    ripetendo([&] { prepara(tradotta, operazione).passo(); });
     modificato();
     // What a trigger changes isn't counted, and a statement that changes no rows leaves the old count.
     return sqlite3_total_changes(db) == prima ? 0 : sqlite3_changes(db);
 }
 
-void Sessione::passaRipetendo(const std::string& sql, Operazione operazione) {
+void Sessione::ripetendo(const std::function<void()>& cambio) {
     for (jet::Pazienza pazienza(attesa_);;) {
         try {
-            prepara(sql, operazione).passo();
-            return;
+            return cambio();
         } catch (const Guasto& guasto) {
             const bool cambiata = guasto.numero() == dao::kCambiatoDaAltri;
             const bool bloccata = guasto.numero() == dao::kBloccatoAggiornamento ||

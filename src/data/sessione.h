@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -57,6 +58,9 @@ public:
 
     /// A statement in SQLite's own dialect. The latest ones are kept prepared.
     [[nodiscard]] Istruzione prepara(const std::string& sql, Operazione operazione);
+    /// Runs a change, again and again for the whole wait where the engine says so and another station was in
+    /// the way.
+    void ripetendo(const std::function<void()>& cambio);
     /// Runs a statement that changes rows; returns how many.
     std::int32_t esegui(std::string_view sql);
     /// Changes of this session's own; with the engine's version it tells whether rows read before still
@@ -80,8 +84,6 @@ private:
     using Pronta = std::pair<std::string, std::shared_ptr<sqlite3_stmt>>;
 
     [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione) const;
-
-    void passaRipetendo(const std::string& sql, Operazione operazione);
 
     std::chrono::milliseconds attesa_;
     std::unique_ptr<Motore> motore_;

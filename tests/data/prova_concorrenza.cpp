@@ -1,5 +1,6 @@
 // What two stations do to each other, with two real processes.
 #include "data/dao.h"
+#include "platform/computer.h"
 #include "tests/data/attesa_guasto.h"
 #include "tests/data/stazione.h"
 #include "tests/sostegno/archivio_prova.h"
@@ -71,6 +72,20 @@ TEST_F(Concorrenza, ChiAttendeProsegueQuandoLaRigaSiLibera) {
     EXPECT_EQ(altra.risposta(), "fatto");
     EXPECT_EQ(altra("annulla"), "fatto");
     EXPECT_EQ(pezzi(), "9");
+}
+
+TEST_F(Concorrenza, IlBloccoDiUnaPaginaDiceDiChiE) {
+    if (!prova::archiviAccess())
+        GTEST_SKIP() << "such an archive's lock has no name";
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    ASSERT_EQ(altra("edit Numero = 12"), "fatto");
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    try {
+        rs->Edit();
+        ADD_FAILURE() << "not locked";
+    } catch (const Guasto& guasto) {
+        EXPECT_NE(guasto.descrizione().find("'" + nomeComputer() + "'"), std::string::npos);
+    }
 }
 
 TEST_F(Concorrenza, NessunaModificaVaPerduta) {

@@ -35,13 +35,15 @@ Pagine::Pagine(const std::filesystem::path& file, Apertura apertura)
     intestazione_ = leggiIntestazione(*dalFile(kPaginaIntestazione));
     if (lunghezza % kPagina != 0)
         throw danno(static_cast<std::uint32_t>(lunghezza / kPagina), "l'ultima pagina è tronca");
-    leggiParole(parole_);
     svuota();
-    if (!apertura_.sola_lettura && !apertura_.da_soli)
-        stazione_ = std::make_unique<Stazione>(file, apertura_.computer, [this](unsigned u) {
-            // A number whose last station died while it wrote keeps telling so until the archive is mended.
-            return parole_.di(u) != Parole::kScrive && parole_.di(u) != Parole::kDanno;
-        });
+    if (apertura_.sola_lettura || apertura_.da_soli)
+        return;
+    Parole ora;
+    leggiParole(ora);
+    stazione_ = std::make_unique<Stazione>(file, apertura_.computer, [&](unsigned u) {
+        // A number whose last station died while it wrote keeps telling so until the archive is mended.
+        return ora.di(u) != Parole::kScrive && ora.di(u) != Parole::kDanno;
+    });
 }
 
 std::shared_ptr<Pagina> Pagine::dalFile(std::uint32_t numero) const {
@@ -84,16 +86,21 @@ void Pagine::leggiParole(Parole& parole) const {
 }
 
 bool Pagine::qualcunoScrive(const Parole& parole) const {
-    for (unsigned u = 1; u <= Stazione::kMassimo; ++u)
-        if (parole.di(u) == Parole::kScrive && u != utente() && stazione_ && stazione_->presente(u))
+    for (unsigned u = 1; u <= Stazione::kMassimo && !apertura_.da_soli; ++u)
+        if (parole.di(u) == Parole::kScrive && u != utente() && (!stazione_ || stazione_->presente(u)))
             return true;
     return false;
 }
 
 std::int64_t Pagine::aggiorna() {
+    // Who only reads can't tell a station that writes from one that died at it: no commit takes so long.
+    constexpr std::chrono::milliseconds kCommitMassimo{300};
     Parole ora;
     leggiParole(ora);
-    for (Pazienza pazienza(apertura_.attesa); ora != parole_ && qualcunoScrive(ora);) {
+    for (Pazienza pazienza(stazione_ ? apertura_.attesa : std::min(apertura_.attesa, kCommitMassimo));
+         ora != parole_ && qualcunoScrive(ora);) {
+        if (!pazienza.ancora() && !stazione_)
+            break;
         if (!pazienza.ancora())
             throw erroreDao(dao::kBloccatoLettura);
         pazienza.attendi();
