@@ -44,7 +44,7 @@ void Imposta::PreparaComboCategoria() {
     for (int i = 0; i < kListeCategoria; ++i)
         controlli_("cboCodCategoria", i).Clear();
     clsRecordset rs(s_.richiami.contestoDati());
-    rs.Apri("PreparaComboCategoria", false, istruzioni::kCategorie, false, false);
+    rs.Apri("PreparaComboCategoria", true, istruzioni::kCategorie, false, true);
     inOgniLista("Non attivo");
     while (rs.Errore() == 0) {
         inOgniLista(rs.ilRecordset().Fields()["Descrizione"].Value().aTestoOVuoto());

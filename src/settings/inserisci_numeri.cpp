@@ -1,5 +1,6 @@
 #include "settings/inserisci_numeri.h"
 
+#include "data/istruzioni.h"
 #include "forms/verifica.h"
 #include "platform/conversioni.h"
 #include "platform/guasto.h"
@@ -40,12 +41,6 @@ static_assert(layoutValido(kControlli));
 
 const Layout kLayout{"frmInserisciNumeri", "Inserimento numeri", 13125, 4425, stile::kFondo, kControlli};
 
-std::string inserimento(int numero) {
-    return "Insert into lumigrafo (sigla, numero, categoria1, categoria2, categoria3, categoria4, categoria5, "
-           "categoria6, categoria7, categoria8) values (''," +
-           std::to_string(numero) + ",-1,-1,-1,-1,-1,-1,-1,-1);";
-}
-
 } // namespace
 
 InserisciNumeri::InserisciNumeri(const ServiziInserimento& servizi, std::function<void()> chiudi)
@@ -72,7 +67,7 @@ void InserisciNumeri::cmdOK() {
                           "ATTENZIONE", Icona::Domanda, Bottoni::SiNo});
     if (risposta != Risposta::Si)
         return;
-    s_.Db.Execute("Delete * from Lumigrafo");
+    s_.Db.Execute(istruzioni::kTogliTutti);
     s_.pompa.cedi("frmInserisciNumeri/4");
     inserisci(aIntero16(testo));
     s_.messaggi.MostraMessaggio("Inserimento terminato", 2);
@@ -88,7 +83,7 @@ void InserisciNumeri::inserisci(int primo) {
         s_.Ws.BeginTrans();
         try {
             for (; numero <= fine; ++numero)
-                s_.Db.Execute(inserimento(numero));
+                s_.Db.Execute(istruzioni::inserisciNumero(std::to_string(numero)));
         } catch (const Guasto&) {
             s_.Ws.CommitTrans();
             throw;

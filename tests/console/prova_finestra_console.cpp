@@ -132,6 +132,13 @@ TEST_F(FinestraGestione, ATouchOnACellCallsItsNumberAndLeavesTheFocusToTheScanne
     EXPECT_EQ(QApplication::focusWidget(), trova("txtBarCode"));
 }
 
+TEST_F(FinestraGestione, ATouchOnAnEmptyGridGivesTheScannerItsFieldBack) {
+    avvia();
+    finestra.setFocus();
+    QTest::mouseClick(trova("grid(0)"), Qt::LeftButton, {}, {40, 40});
+    EXPECT_EQ(QApplication::focusWidget(), trova("txtBarCode"));
+}
+
 TEST_F(FinestraGestione, TheOutcomePanelCoversTheWholeConsole) {
     b.archivio.ordine("A", 1, {{1, 1}});
     avvia();
