@@ -6,6 +6,7 @@
 #include <atomic>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 #include <thread>
 
 namespace lumigrafo::prova {
@@ -104,10 +105,17 @@ TEST(Componente, HeaderAndLinesBelongTogetherWhileAnotherStationRenumbers) {
     b.archivio.esegui("PRAGMA journal_mode = WAL");
     std::atomic<bool> basta = false;
     std::thread altra([&] {
-        ArchivioProva archivio(b.cartella.percorso() / "archivio.mdb");
-        for (int n = 100; !basta; ++n)
-            archivio.esegui("BEGIN IMMEDIATE; UPDATE ScontriniEmessi SET Numero = " + std::to_string(n) +
-                            ", Totale = 0; UPDATE Dettaglio SET Numero = " + std::to_string(n) + "; COMMIT");
+        // A bare connection: the engine's own would put the journal back, which makes readers wait.
+        sqlite3* db = nullptr;
+        sqlite3_open((b.cartella.percorso() / "archivio.mdb").c_str(), &db);
+        sqlite3_busy_timeout(db, 5000);
+        for (int n = 100; !basta; ++n) {
+            const std::string numero = std::to_string(n);
+            const std::string sql = "BEGIN IMMEDIATE; UPDATE ScontriniEmessi SET Numero = " + numero +
+                                    ", Totale = 0; UPDATE Dettaglio SET Numero = " + numero + "; COMMIT";
+            EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK);
+        }
+        sqlite3_close(db);
     });
     for (int volta = 0; volta < 200; ++volta)
         ignorandoGuasti([&] { EXPECT_FALSE(leggiScontrino(*b.db, 7).righe.empty()); });
