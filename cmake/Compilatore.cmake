@@ -19,6 +19,12 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
 endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
 
+# Many small programs are linked: the quicker linker, where there is one.
+find_program(GOLD ld.gold)
+if(GOLD AND NOT WIN32)
+  add_link_options(-fuse-ld=gold)
+endif()
+
 if(LUMIGRAFO_SANITIZER)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
