@@ -36,8 +36,8 @@ public:
 
 private:
     void n(std::uint64_t valore, int byte) {
-        for (int i = 0; i < byte; ++i)
-            s_ += static_cast<char>(valore >> (8 * i));
+        for (int i = 0; i < byte; ++i, valore >>= 8)
+            s_ += static_cast<char>(valore);
     }
     void nome(const std::string& testo) {
         const std::string byte = scriviTesto(testo, false);
