@@ -1,5 +1,6 @@
 #include "console/avvio.h"
 
+#include "announce/log.h"
 #include "console/dialogo.h"
 #include "links/collegamento_android.h"
 #include "platform/conversioni.h"
@@ -14,7 +15,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr const char* kLogVoce = "log.vocal.txt";
 /// Until this hour the business day is still yesterday's.
 constexpr int kOraCambioGiorno = 5;
 /// A stored truth value, as against the 1 of a ticked box.
@@ -136,7 +136,7 @@ void Avvio::apriArchivio() {
 }
 
 void Avvio::svuotaLogVoce() const {
-    if (!std::ofstream(c_.porte.ambiente.file(kLogVoce), std::ios::trunc))
+    if (!std::ofstream(c_.porte.ambiente.file(kFileLogVoce), std::ios::trunc))
         throw Guasto(guasti::kPermessoNegato);
 }
 

@@ -92,8 +92,16 @@ void Chiamata::chiama(std::int16_t q, const std::string& cella, const std::strin
     MostraNumero(q, sigla, numero);
     c_.frmVideata().Blinka(q); // also for a number that was on the board already
     annuncia(q, sigla, numero);
-    if (c_.stato.ScontrinoFiscale)
-        c_.porte.fiscale.EmettiFiscale(sigla, numero);
+    emettiScontrino(sigla, numero);
+}
+
+void Chiamata::emettiScontrino(const std::string& sigla, const std::string& numero) {
+    if (!c_.stato.ScontrinoFiscale)
+        return;
+    // The component asks and waits as long as the operator likes; the console waits with it.
+    c_.stato.ScontrinoInCorso = true;
+    c_.porte.fiscale.EmettiFiscale(sigla, numero);
+    c_.stato.ScontrinoInCorso = false;
 }
 
 void Chiamata::annuncia(std::int16_t q, const std::string& sigla, const std::string& numero) {

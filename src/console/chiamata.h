@@ -15,6 +15,8 @@ public:
 
     /// A click on the current cell of `grid(q)`.
     void clicGriglia(std::int16_t q);
+    /// The receipt of a called order, at a station that issues receipts.
+    void emettiScontrino(const std::string& sigla, const std::string& numero);
     /// Puts a number into the quadrant's newest slot, unless it is on show there already.
     void MostraNumero(std::int16_t index, const std::string& sigla, const std::string& numero);
     /// Strikes the number's category off the queue and empties its cell; -1 takes the grid's current row or

@@ -24,7 +24,11 @@ Console::Console(StatoConsole& stato, const PorteConsole& porte, FinestraConsole
       caricatore_(contesto_), richiami_(contesto_, caricatore_),
       dispositore_(contesto_, caricatore_, std::move(fabbrica)), chiamata_(contesto_, caricatore_),
       scansione_(contesto_, chiamata_), ripetizione_(contesto_),
-      Timer1_(porte.timers.crea(32000ms, [this] { caricatore_.CaricaVideataInizio(true); })),
+      Timer1_(porte.timers.crea(32000ms,
+                                [this] {
+                                    if (!stato_.ScontrinoInCorso)
+                                        caricatore_.CaricaVideataInizio(true);
+                                })),
       comandi_(contesto_, *Timer1_), avvio_(contesto_, caricatore_, dispositore_, comandi_, *Timer1_) {
     for (Griglia& grid : stato_.grid) {
         grid.altezzaMinima(kAltezzaRiga);
@@ -68,6 +72,12 @@ void Console::clic(std::string_view nome, int indice) {
         std::find_if(kAzioni.begin(), kAzioni.end(), [&](const Azione& a) { return a.nome == nome; });
     if (azione != kAzioni.end())
         azione->fai(*this, indice);
+}
+
+void Console::toccoSuGriglia(int quadrante, int riga) {
+    // Beside the cells of a filled grid a touch is none: the current cell is an order called earlier.
+    if (riga >= 0 || stato_.grid.at(static_cast<std::size_t>(quadrante)).Rows() == 0)
+        clicGriglia(quadrante);
 }
 
 void Console::clicGriglia(int quadrante) {

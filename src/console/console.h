@@ -38,6 +38,8 @@ public:
     void clic(std::string_view nome, int indice);
     /// A click on the current cell of a grid.
     void clicGriglia(int quadrante);
+    /// A touch on a grid; `riga` is -1 beside its cells.
+    void toccoSuGriglia(int quadrante, int riga);
     /// A pointer event on a grid: the periodic rebuild waits as long as the pointer is moving.
     void puntatoreSuGriglia();
     /// A key press, before any control sees it; 0 for a key without a character. True: it goes no further.

@@ -28,9 +28,7 @@ public:
     [[nodiscard]] bool Lumigrafo9Numeri() const override { return s_.Lumigrafo9Numeri; }
     [[nodiscard]] LumigrafoAndroid& IpDroid(std::size_t i) override { return s_.IpDroid.at(i); }
     [[nodiscard]] std::string scritta(const std::string& etichetta, int indice) override {
-        if (!s_.frmVideata)
-            throw Guasto(guasti::kOggettoMancante);
-        return s_.frmVideata->controlli()(etichetta, indice).Caption();
+        return s_.videataInUso().controlli()(etichetta, indice).Caption();
     }
     [[nodiscard]] Database& Db() override { return aperto(s_.Db.get()); }
     [[nodiscard]] Workspace& Ws() override { return aperto(s_.Ws); }

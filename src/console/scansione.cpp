@@ -107,8 +107,8 @@ void Scansione::chiama(std::int16_t quadrante, const std::string& sigla, const s
         chiamata_.AggiornaGridDB(sigla, numero, quadrante, -1, -1);
     MostraEsitoBarCode(true, c_.stato.Reparto[static_cast<std::size_t>(quadrante)] + "\r\n" + testo);
     chiamata_.annuncia(quadrante, sigla, numero);
-    if (trovato && c_.stato.ScontrinoFiscale)
-        c_.porte.fiscale.EmettiFiscale(sigla, numero);
+    if (trovato)
+        chiamata_.emettiScontrino(sigla, numero);
     c_.fuocoSuTxtBarCode();
 }
 

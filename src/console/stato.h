@@ -49,7 +49,8 @@ struct StatoConsole {
 
     bool ModalitaDepennamento = false;
     bool BarCodeInCorso = false;
-    bool Occupato = false; ///< a number is being taken for a cash desk
+    bool Occupato = false;         ///< a number is being taken for a cash desk
+    bool ScontrinoInCorso = false; ///< a receipt is being issued: the grids aren't rebuilt meanwhile
 
     std::array<std::int16_t, kCategorie + 1> PezziCategoria{};
     /// Last order placed in each quadrant while the grids are rebuilt.

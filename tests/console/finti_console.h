@@ -61,7 +61,11 @@ public:
     explicit FiscaleFinto(Diario& diario) : Annotatore(diario) {}
     void EmettiFiscale(const std::string& sigla, const std::string& numero) override {
         annota("fiscale " + sigla + "/" + numero);
+        if (dentro)
+            dentro();
     }
+
+    std::function<void()> dentro; ///< what happens while a receipt is issued
 };
 
 class AndroidFinto : public LumigrafiAndroid, Annotatore {

@@ -26,6 +26,19 @@ protected:
     }
 };
 
+TEST_F(Chiamate, TheGridsStandStillWhileAReceiptIsIssued) {
+    b.imposta("ScontrinoFiscale", 1);
+    b.caricata();
+    b.fiscale.dentro = [this] { // the operator thinks about the printer for a while
+        b.archivio.esegui("DELETE FROM Lumigrafo WHERE Numero = 1");
+        b.timers.avanza(32s);
+    };
+    b.clic(0, "A  3");
+    EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", "", "A  4", "A  5", "A  6", "A  7", "A  8", ""));
+    b.timers.avanza(32s);
+    EXPECT_THAT(b.celle(0), ElementsAre("A  2", "A  4", "A  5", "A  6", "A  7", "A  8"));
+}
+
 TEST_F(Chiamate, OneTouchDoesTheWholeRoad) {
     b.imposta("ScontrinoFiscale", 1);
     b.caricata();

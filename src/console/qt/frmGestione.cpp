@@ -52,11 +52,7 @@ void frmGestione::collega(Console& console) {
     for (int q = 0; q < kQuadranti; ++q) {
         GrigliaWidget& grid =
             contenuto_->collegaGriglia("grid", q, console.stato().grid[static_cast<std::size_t>(q)]);
-        // Beside the cells of a filled grid a click is none: the current cell is an order called earlier.
-        grid.alClic([this, q](int riga, int) {
-            if (riga >= 0 || console_->stato().grid[static_cast<std::size_t>(q)].Rows() == 0)
-                console_->clicGriglia(q);
-        });
+        grid.alClic([this, q](int riga, int) { console_->toccoSuGriglia(q, riga); });
         grid.alPuntatore([this] { console_->puntatoreSuGriglia(); });
     }
 }
