@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <clocale>
 #include <cmath>
 #include <iterator>
 #include <limits>
@@ -239,6 +240,10 @@ std::string aTesto(float valore, char separatore) {
     std::string t = maiuscolo({testo, errore == std::errc() ? fine : testo}); // an exponent is written with E
     std::replace(t.begin(), t.end(), '.', separatore);
     return t;
+}
+
+char separatoreDecimale() {
+    return *std::localeconv()->decimal_point;
 }
 
 std::string aTesto(std::int32_t valore) {

@@ -48,6 +48,8 @@ inline constexpr Vero16 kFalso = 0;
 /// Decimal text, without a decimal sign for whole values and with `separatore` otherwise; single precision,
 /// so at most 7 significant digits.
 [[nodiscard]] std::string aTesto(float valore, char separatore = '.');
+/// The decimal sign of the machine's locale, once the program has taken that over.
+[[nodiscard]] char separatoreDecimale();
 [[nodiscard]] std::string aTesto(std::int32_t valore);
 /// "True" or "False".
 [[nodiscard]] std::string aTesto(bool valore);

@@ -100,16 +100,11 @@ constexpr Descrizione bottone(std::string_view nome, std::string_view padre, Ret
 /// A label that shows what a font or a pair of colours looks like.
 constexpr Descrizione campione(std::string_view nome, int indice, std::string_view padre, Rettangolo rett,
                                std::string_view testo) {
-    return {.tipo = Tipo::Etichetta,
-            .nome = nome,
-            .indice = indice,
-            .padre = padre,
-            .rett = rett,
-            .carattere = {"Arial", 13.5, true},
-            .allineamento = Allineamento::Centro,
-            .testo = stile::kTesto,
-            .sfondo = rgb(230, 235, 240),
-            .caption = testo};
+    Descrizione d = etichetta(nome, indice, padre, rett, testo);
+    d.carattere = {"Arial", 13.5, true};
+    d.allineamento = Allineamento::Centro;
+    d.sfondo = rgb(230, 235, 240);
+    return d;
 }
 
 constexpr Descrizione nascosto(Descrizione d) {

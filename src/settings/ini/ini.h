@@ -21,7 +21,7 @@ public:
     ValoreIni(std::string testo) : testo_(std::move(testo)) {}
     ValoreIni(std::string_view testo) : testo_(testo) {}
     ValoreIni(const char* testo) : testo_(testo) {}
-    ValoreIni(float valore) : testo_(aTesto(valore)) {}
+    ValoreIni(float valore) : testo_(aTesto(valore, separatoreDecimale())) {}
     template <std::same_as<bool> T>
     ValoreIni(T valore) : testo_(aTesto(valore)) {}
     template <std::integral T>
