@@ -5,9 +5,11 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
-#include <span>
+#include <iterator>
+#include <limits>
 
 namespace lumigrafo::prova {
 
@@ -17,11 +19,7 @@ constexpr std::size_t kCampioniPasso = 160; // 10 ms at 16 kHz
 constexpr std::size_t kBytePasso = kCampioniPasso * sizeof(std::int16_t);
 constexpr double kUdibile = 150;
 /// Steps that are blurred into one for a comparison: a recording's steps never fall on those of another.
-constexpr std::size_t kSfumatura = 5;
-
-bool udibile(double livello) {
-    return livello > kUdibile;
-}
+constexpr std::size_t kSfumatura = 3;
 
 double livello(const char* passo) {
     double somma = 0;
@@ -44,40 +42,63 @@ Profilo sfumato(const Profilo& profilo) {
     return risultato;
 }
 
-/// Correlation of two pieces of one length.
-double correlazione(std::span<const double> a, std::span<const double> b) {
-    double sa = 0, sb = 0, saa = 0, sbb = 0, sab = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        sa += a[i];
-        sb += b[i];
-        saa += a[i] * a[i];
-        sbb += b[i] * b[i];
-        sab += a[i] * b[i];
-    }
-    const auto n = static_cast<double>(a.size());
-    const double varianze = (saa - sa * sa / n) * (sbb - sb * sb / n);
-    return varianze > 0 ? (sab - sa * sb / n) / std::sqrt(varianze) : 0;
+/// A way to lay a piece along a recording, up to one step of each.
+struct Percorso {
+    double diverso = std::numeric_limits<double>::infinity(); ///< sum of the differences
+    double insieme = 0;                                       ///< sum of both levels
+    std::size_t inizio = 0;
+
+    [[nodiscard]] double differenza() const { return insieme > 0 ? diverso / insieme : diverso; }
+};
+
+Percorso piuPasso(Percorso p, double a, double b) {
+    p.diverso += std::abs(a - b);
+    p.insieme += a + b;
+    return p;
 }
 
 } // namespace
 
 Profilo senzaSilenzi(const Profilo& profilo) {
-    const auto inizio = std::find_if(profilo.begin(), profilo.end(), udibile);
-    const auto fine = std::find_if(profilo.rbegin(), profilo.rend(), udibile).base();
-    return inizio < fine ? Profilo(inizio, fine) : Profilo{};
+    Profilo suono;
+    std::copy_if(profilo.begin(), profilo.end(), std::back_inserter(suono),
+                 [](double livello) { return livello > kUdibile; });
+    return suono;
 }
 
-double secondiUditi(const Profilo& profilo) {
-    return kSecondiPasso * static_cast<double>(std::count_if(profilo.begin(), profilo.end(), udibile));
+double secondi(const Profilo& profilo) {
+    return kSecondiPasso * static_cast<double>(profilo.size());
 }
 
 Posto cerca(const Profilo& pezzo, const Profilo& tutto) {
     const Profilo p = sfumato(pezzo), t = sfumato(tutto);
+    // righe[i % 3][k]: the best way to lay the first i steps of the piece so that they end before step k. A
+    // step of one may stand for two of the other, never for more: a piece isn't found in half of itself.
+    std::array<std::vector<Percorso>, 3> righe;
+    righe.fill(std::vector<Percorso>(t.size() + 1));
+    for (std::size_t k = 0; k <= t.size(); ++k)
+        righe[0][k] = {0, 0, k};
+    for (std::size_t i = 1; i <= p.size(); ++i)
+        for (std::size_t k = 0; k <= t.size(); ++k) {
+            Percorso& qui = righe[i % 3][k] = {};
+            const auto prova = [&](Percorso via) {
+                if (via.differenza() < qui.differenza())
+                    qui = via;
+            };
+            if (k < 1)
+                continue;
+            const double a = p[i - 1], b = t[k - 1];
+            prova(piuPasso(righe[(i - 1) % 3][k - 1], a, b));
+            if (k > 1)
+                prova(piuPasso(piuPasso(righe[(i - 1) % 3][k - 2], a, t[k - 2]), a, b));
+            if (i > 1)
+                prova(piuPasso(piuPasso(righe[(i - 2) % 3][k - 1], p[i - 2], b), a, b));
+        }
     Posto migliore;
-    for (std::size_t i = 0; i + p.size() <= t.size(); ++i) {
-        const double c = correlazione(p, std::span(t).subspan(i, p.size()));
-        if (c > migliore.somiglianza)
-            migliore = {i, c};
+    for (std::size_t k = 0; k <= t.size(); ++k) {
+        const Percorso& via = righe[p.size() % 3][k];
+        if (1 - via.differenza() > migliore.somiglianza)
+            migliore = {via.inizio, k, 1 - via.differenza()};
     }
     return migliore;
 }

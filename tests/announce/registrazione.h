@@ -14,16 +14,17 @@ using Profilo = std::vector<double>;
 
 inline constexpr double kSecondiPasso = 0.01;
 
-/// From the first to the last audible step; empty for silence.
+/// The audible steps alone. A busy sound server stops for a moment in the middle of a word: that isn't the
+/// voice's doing, and so no pause counts.
 [[nodiscard]] Profilo senzaSilenzi(const Profilo& profilo);
-/// Seconds of sound, without the pauses in between.
-[[nodiscard]] double secondiUditi(const Profilo& profilo);
+[[nodiscard]] double secondi(const Profilo& profilo);
 
 struct Posto {
-    std::size_t inizio = 0;
-    double somiglianza = 0; ///< 1: the same piece; 0: nothing in common
+    std::size_t inizio = 0, fine = 0; ///< steps; `fine` is the one behind the last
+    double somiglianza = 0;           ///< 1: the same piece; 0: nothing in common
 };
-/// Where in `tutto` the piece sounds most alike. The piece isn't empty.
+/// Where in `tutto` the piece sounds most alike, where either may run a little faster here and there. Both
+/// without silences; the piece isn't empty.
 [[nodiscard]] Posto cerca(const Profilo& pezzo, const Profilo& tutto);
 
 /// Records what a sound source of the PulseAudio server gives, from `avvia` on.
