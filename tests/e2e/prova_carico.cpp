@@ -10,6 +10,7 @@ namespace {
 
 constexpr unsigned kSeme = 20260315;
 constexpr int kScrittureAlSecondo = 60;
+constexpr int kChiamateAlmeno = 20;
 
 std::string codice(int quadrante, const std::string& cella) {
     const std::string numero = cella.substr(3);
@@ -53,7 +54,12 @@ TEST(Carico, chiamaEDepennaMentreUnAltroProcessoScrive) {
     };
 
     const auto fine = std::chrono::steady_clock::now() + durataCarico();
-    while (std::chrono::steady_clock::now() < fine && !HasFatalFailure()) {
+    const auto ultima = fine + std::chrono::seconds(30); // a slow machine takes longer for as many calls
+    const auto manca = [&] {
+        const auto ora = std::chrono::steady_clock::now();
+        return ora < fine || (ora < ultima && registro.chiamate() <= kChiamateAlmeno);
+    };
+    while (manca() && !HasFatalFailure()) {
         ASSERT_TRUE(registro.attendi());
         if (caso() % 4 == 0) // about as many as come in, so that the queue stays long
             chiama(static_cast<int>(caso() % 3));
@@ -68,7 +74,7 @@ TEST(Carico, chiamaEDepennaMentreUnAltroProcessoScrive) {
                 registro.scritture(), registro.scrittureAlSecondo(), registro.chiamate(), registro.incerte(),
                 ricostruzioni);
     EXPECT_GT(registro.scrittureAlSecondo(), 20) << "too little load to show anything";
-    EXPECT_GT(registro.chiamate(), 20);
+    EXPECT_GT(registro.chiamate(), kChiamateAlmeno);
 }
 
 } // namespace

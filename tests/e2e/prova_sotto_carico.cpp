@@ -93,25 +93,32 @@ protected:
         return celle;
     }
 
-    /// Rebuilds the grids and calls the first six cells of each in turn, where a row that is empty goes;
-    /// tells those that weren't what the archive holds.
+    /// Rebuilds the grids and calls the first cells of a quadrant in turn, where a row that is empty goes;
+    /// tells the first that wasn't what the archive holds.
+    std::string sbagliata(std::size_t q, Registro& registro) {
+        quiete();
+        aggiorna();
+        const auto attesi = aperti(q);
+        for (std::size_t i = 0; i < std::min<std::size_t>(attesi.size(), 6); ++i) {
+            s->clic(static_cast<int>(q), 0, static_cast<int>(i % 3));
+            const auto ultimo = [&] { return s->ultimoChiamato(static_cast<int>(q)); };
+            const bool chiamato = attendiChe(2s, [&] { return ultimo() == attesi[i]; });
+            segui(registro);
+            if (!chiamato)
+                return attesi[i] + " expected, called " + ultimo() + "; ";
+        }
+        return "";
+    }
+
+    /// The same for all quadrants. On a slow machine a touch can come before the last one has quite ended,
+    /// and is dropped then: only what is wrong again and again is wrong.
     std::string sbagliate(Registro& registro) {
         std::string quali;
-        aggiorna();
         for (std::size_t q = 0; q < 3; ++q) {
-            const auto attesi = aperti(q);
-            for (std::size_t i = 0; i < std::min<std::size_t>(attesi.size(), 6); ++i) {
-                const auto ultimo = [&] { return s->ultimoChiamato(static_cast<int>(q)); };
-                // A touch that comes before the last one has quite ended is dropped.
-                bool chiamato = false;
-                for (int volta = 0; volta < 3 && !chiamato; ++volta) {
-                    s->clic(static_cast<int>(q), 0, static_cast<int>(i % 3));
-                    chiamato = attendiChe(700ms, [&] { return ultimo() == attesi[i]; });
-                }
-                if (!chiamato)
-                    quali += attesi[i] + " expected, called " + ultimo() + "; ";
-                segui(registro);
-            }
+            std::string quale = sbagliata(q, registro);
+            for (int volta = 1; volta < 4 && !quale.empty(); ++volta)
+                quale = sbagliata(q, registro);
+            quali += quale;
         }
         return quali;
     }
@@ -167,9 +174,11 @@ TEST_F(SottoCarico, uccisoMentreChiamaRiparteDaUnoStatoDellaCorsa) {
         for (std::size_t i = 0; std::chrono::steady_clock::now() < fine; ++i) {
             const std::size_t q = i % 3; // the first row of each grid, in turn
             const std::string cella = griglie.at(q).at(i / 3);
+            const auto chiamata = [&] { return s->ultimoChiamato(static_cast<int>(q)) == cella; };
+            if (chiamata()) // killed in the middle of its call, the round before
+                continue;
             const auto altri = possibili.back().durante(q, cella);
             possibili.insert(possibili.end(), altri.begin(), altri.end());
-            const auto chiamata = [&] { return s->ultimoChiamato(static_cast<int>(q)) == cella; };
             while (std::chrono::steady_clock::now() < fine && !chiamata()) {
                 s->clic(static_cast<int>(q), 0,
                         static_cast<int>(i / 3 % 3)); // dropped if the last isn't over
