@@ -4,9 +4,15 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
+# With precompiled headers ccache works as soon as it may overlook what they hide from it (the macros that were defined
+# before them, the time of the day) and how new they are.
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+      CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-fpch-preprocess)
+  endif()
 endif()
 
 if(MSVC)
@@ -34,6 +40,7 @@ endif()
 function(lum_logica nome)
   add_library(${nome} STATIC ${ARGN})
   target_include_directories(${nome} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  lum_precompila(${nome} logica)
 endfunction()
 
 # lum_finestre(name sources...): a library of windows, on Qt Widgets.
@@ -41,4 +48,5 @@ function(lum_finestre nome)
   add_library(${nome} STATIC ${ARGN})
   target_include_directories(${nome} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${nome} PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets)
+  lum_precompila(${nome} finestre)
 endfunction()
