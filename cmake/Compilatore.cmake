@@ -12,6 +12,8 @@ if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
       CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-fpch-preprocess)
+  else()
+    add_compile_options("SHELL:-Xclang -fno-pch-timestamp")
   endif()
 endif()
 
