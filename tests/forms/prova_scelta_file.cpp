@@ -24,6 +24,8 @@ std::filesystem::path scegli(const std::filesystem::path& cartella,
         EXPECT_EQ(finestra->windowTitle(), QStringLiteral("Seleziona"));
         EXPECT_EQ(finestra->nameFilters(), QStringList(QStringLiteral("Immagini (*.jpg)")));
         EXPECT_EQ(finestra->directory().absolutePath().toStdString(), cartella.string());
+        EXPECT_EQ(finestra->labelText(QFileDialog::FileName),
+                  QStringLiteral("&Nome file:")); // on any machine
         operatore(*finestra);
     });
     return scelta.scegli({"Seleziona", "Immagini (*.jpg)", cartella});

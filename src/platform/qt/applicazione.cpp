@@ -30,6 +30,7 @@ Applicazione::Applicazione(int& argc, char** argv, Avvisi& avvisi, Uscita& uscit
     : QApplication(argc, argv), avvisi_(avvisi), uscita_(uscita) {
     setApplicationName(QStringLiteral("lumigrafo"));
     setQuitOnLastWindowClosed(false);
+    installTranslator(&italiano_);
     aspetto::applica(*this);
 }
 

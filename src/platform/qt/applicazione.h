@@ -2,6 +2,7 @@
 
 #include "platform/avvisi.h"
 #include "platform/guasto.h"
+#include "platform/qt/italiano.h"
 #include "platform/sistema.h"
 
 #include <QApplication>
@@ -10,9 +11,10 @@
 
 namespace lumigrafo {
 
-/// Qt's application, with the program's look and the one place where a failure that nobody caught ends: the
-/// platform's error box, and then the process with code 1. It catches in `notify`, not around the loop,
-/// because there a failure under any modal window passes too, and must not run through Qt's own frames.
+/// Qt's application, with the program's look and language and the one place where a failure that nobody
+/// caught ends: the platform's error box, and then the process with code 1. It catches in `notify`, not
+/// around the loop, because there a failure under any modal window passes too, and must not run through Qt's
+/// own frames.
 class Applicazione final : public QApplication {
 public:
     /// `argc` and `argv` must outlive the application; the two ports must as well.
@@ -30,6 +32,7 @@ private:
 
     Avvisi& avvisi_;
     Uscita& uscita_;
+    Italiano italiano_;
     bool finita_ = false;
 };
 

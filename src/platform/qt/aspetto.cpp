@@ -85,6 +85,13 @@ public:
                    ? qRound(kBarra * ingrandimento(widget->screen()->availableSize()))
                    : QProxyStyle::pixelMetric(quale, opzione, widget);
     }
+    /// Plain words on the buttons of every dialog.
+    [[nodiscard]] int styleHint(StyleHint quale, const QStyleOption* opzione, const QWidget* widget,
+                                QStyleHintReturn* altro) const override {
+        return quale == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(quale, opzione, widget, altro);
+    }
 };
 
 } // namespace
