@@ -10,6 +10,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 namespace lumigrafo::jet {
 
@@ -31,6 +32,32 @@ std::string guid(Vista v) {
         t += kCifre[b & 15];
     }
     return t + '}';
+}
+
+/// With its braces or without.
+std::string daGuid(std::string_view t) {
+    constexpr std::size_t kTrattini[] = {8, 13, 18, 23};
+    if (t.starts_with('{') && t.ends_with('}'))
+        t = t.substr(1, t.size() - 2);
+    std::string b;
+    for (std::size_t i = 0; i < 36 && t.size() == 36;) {
+        unsigned n = 0;
+        if (std::find(std::begin(kTrattini), std::end(kTrattini), i) != std::end(kTrattini)) {
+            if (t[i++] != '-')
+                break;
+        } else if (std::from_chars(t.data() + i, t.data() + i + 2, n, 16).ptr == t.data() + i + 2) {
+            b += static_cast<char>(n);
+            i += 2;
+        } else {
+            break;
+        }
+    }
+    if (b.size() != 16)
+        throw erroreDao(dao::kConversione);
+    std::reverse(b.begin(), b.begin() + 4); // the first three groups are numbers, little-endian
+    std::reverse(b.begin() + 4, b.begin() + 6);
+    std::reverse(b.begin() + 6, b.begin() + 8);
+    return b;
 }
 
 /// A whole number of 128 bits, in words from the highest, divided by ten; returns the remainder.
@@ -95,19 +122,79 @@ std::string cifre(double n) {
     return {t.data(), std::to_chars(t.data(), t.data() + t.size(), n, std::chars_format::general, 15).ptr};
 }
 
-std::string testo(const Colonna& c, const Dato& dato) {
-    std::string t;
+std::string comeTesto(const Dato& dato) {
     if (const auto* s = std::get_if<std::string>(&dato))
-        t = *s;
-    else if (const auto* i = std::get_if<std::int64_t>(&dato))
-        t = std::to_string(*i);
-    else if (const auto* d = std::get_if<double>(&dato))
-        t = cifre(*d);
-    else
-        throw erroreDao(dao::kConversione);
-    if (2 * aUtf16(t).size() > c.lunghezza)
+        return *s;
+    if (const auto* i = std::get_if<std::int64_t>(&dato))
+        return std::to_string(*i);
+    if (const auto* d = std::get_if<double>(&dato))
+        return cifre(*d);
+    throw erroreDao(dao::kConversione);
+}
+
+std::string testo(const Colonna& c, const Dato& dato) {
+    std::string t = comeTesto(dato);
+    const std::size_t lungo = 2 * aUtf16(t).size();
+    if (lungo > c.lunghezza)
         throw erroreDao(dao::kCampoCorto);
-    return scriviTesto(t, c.comprimibile);
+    if (c.fissa) // a text that always has its whole length
+        t.append((c.lunghezza - lungo) / 2, ' ');
+    return scriviTesto(t, c.comprimibile && !c.fissa);
+}
+
+/// As many figures behind the point as the column has, without the point.
+std::string cifreDecimali(double n, unsigned scala) {
+    std::array<char, 512> t{}; // the greatest double has 309 figures
+    std::string s(t.data(), std::to_chars(t.data(), t.data() + t.size(), n, std::chars_format::fixed,
+                                          static_cast<int>(scala))
+                                .ptr);
+    std::erase(s, '.');
+    return s;
+}
+
+/// Texts keep all of their figures; whatever isn't plainly written goes by way of a double.
+std::string cifreDecimali(const Dato& dato, unsigned scala) {
+    if (const auto* d = std::get_if<double>(&dato))
+        return cifreDecimali(*d, scala);
+    std::string t = comeTesto(dato);
+    const auto punto = t.find('.');
+    const std::size_t decimali = punto == t.npos ? 0 : t.size() - punto - 1;
+    const std::size_t segno = t.starts_with('-') ? 1 : 0;
+    if (t.find_first_not_of("0123456789.", segno) != t.npos || t.size() == segno || decimali > scala ||
+        std::count(t.begin(), t.end(), '.') > 1)
+        return cifreDecimali(numero(dato), scala);
+    std::erase(t, '.');
+    return t.append(scala - decimali, '0');
+}
+
+std::string decimale(const Colonna& c, const Dato& dato) {
+    std::string t = cifreDecimali(dato, c.scala());
+    const bool negativo = t.starts_with('-');
+    t.erase(0, std::min(t.find_first_not_of("-0"), t.size()));
+    if (t.size() > c.precisione() || t.find_first_not_of("0123456789") != t.npos)
+        throw erroreDao(dao::kConversione);
+    std::array<std::uint32_t, 4> n{};
+    for (const char cifra : t) {
+        std::uint64_t riporto = static_cast<std::uint64_t>(cifra - '0');
+        for (std::size_t i = n.size(); i-- > 0;) {
+            riporto += std::uint64_t{n[i]} * 10;
+            n[i] = static_cast<std::uint32_t>(riporto);
+            riporto >>= 32;
+        }
+    }
+    std::string b(1, negativo && !t.empty() ? '\x80' : '\0');
+    for (const std::uint32_t parola : n)
+        b += byteDi(parola);
+    return b;
+}
+
+/// No negative zero: it equals zero and yet would sort elsewhere in an index.
+template <typename Reale>
+std::string reale(double n) {
+    using Bit = std::conditional_t<sizeof(Reale) == 4, std::uint32_t, std::uint64_t>;
+    if (!(std::abs(n) <= static_cast<double>(std::numeric_limits<Reale>::max())))
+        throw erroreDao(dao::kConversione);
+    return byteDi(std::bit_cast<Bit>(static_cast<Reale>(n) + Reale{0}));
 }
 
 std::string binario(const Colonna& c, const Dato& dato) {
@@ -162,14 +249,18 @@ std::optional<std::string> scriviDato(const Colonna& c, const Dato& dato) {
     case Tipo::Valuta:
         return intero<std::int64_t>(numero(dato) * kUnitaValuta);
     case Tipo::Singolo:
-        return byteDi(std::bit_cast<std::uint32_t>(static_cast<float>(numero(dato))));
+        return reale<float>(numero(dato));
     case Tipo::Doppio:
     case Tipo::Data:
-        return byteDi(std::bit_cast<std::uint64_t>(numero(dato)));
+        return reale<double>(numero(dato));
     case Tipo::Testo:
         return testo(c, dato);
     case Tipo::Binario:
         return binario(c, dato);
+    case Tipo::Guid:
+        return daGuid(comeTesto(dato));
+    case Tipo::Decimale:
+        return decimale(c, dato);
     default:
         throw Guasto(dao::kSolaLettura, "Il campo '" + c.nome + "' si può solo leggere.");
     }

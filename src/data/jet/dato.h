@@ -22,7 +22,8 @@ using Dato = std::variant<std::monostate, std::int64_t, double, std::string, Byt
 [[nodiscard]] Dato leggiDato(const Colonna& colonna, Vista byte);
 
 /// A value as the column's field holds it; nothing for a null and for a Yes/No of 0. Throws Guasto 3421 for
-/// what the type can't take, 3163 for what is too long, 3027 for types that this engine doesn't write.
+/// what the type can't take, 3163 for what is too long, 3027 for long values, which this engine doesn't
+/// write.
 [[nodiscard]] std::optional<std::string> scriviDato(const Colonna& colonna, const Dato& dato);
 
 /// Days since 1899-12-30 as a number that runs on through midnight: before that day the file counts the time

@@ -46,6 +46,7 @@ struct Colonna {
 
     /// Takes place in a row's variable area. Yes/No values take none anywhere.
     [[nodiscard]] bool variabile() const { return !fissa && tipo != Tipo::Booleano; }
+    [[nodiscard]] unsigned precisione() const { return ordinamento & 0xFF; }
     [[nodiscard]] unsigned scala() const { return ordinamento >> 8 & 0xFF; }
 };
 

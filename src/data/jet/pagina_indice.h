@@ -13,6 +13,8 @@ namespace lumigrafo::jet {
 /// order by their bytes and none is twice there. In a node it is the last one below `figlio`.
 struct Voce {
     static constexpr std::size_t kIndirizzo = 4;
+    /// Three entries of the longest key fit into a node, so that a full page can always be split in two.
+    static constexpr std::size_t kChiaveMassima = 1197;
 
     std::string byte;
     std::uint32_t figlio = 0; ///< nodes only: page

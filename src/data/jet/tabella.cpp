@@ -98,12 +98,16 @@ void Tabella::verificaVincoli(const Campi& campi, const Chiavi& nuove, const Chi
                               Posizione propria) {
     for (std::size_t k = 0; k < nuove.size(); ++k) {
         const Indice& i = definizione_.indici[k];
-        if (nuove[k] == vecchie[k])
+        const bool nuova = propria == Posizione{}; // of it, what the index leaves out may yet be required
+        if (nuove[k] == vecchie[k] && (nuove[k] || !nuova))
             continue;
         for (const ColonnaIndice& ci : i.colonne)
             if (const Colonna& c = definizione_.colonne[ci.colonna];
                 i.richiesto && c.tipo != Tipo::Booleano && !campi[ci.colonna])
                 throw erroreDao(dao::kCampoRichiesto, c.nome);
+        if (nuove[k] && nuove[k]->size() > Voce::kChiaveMassima)
+            throw Guasto(dao::kRigaLunga,
+                         "Il record è troppo grande: i suoi testi non entrano nell'indice '" + i.nome + "'.");
         if (i.unico && nuove[k] && !tuttaNulla(definizione_, i, campi) &&
             Albero(pagine_, definizione_, i).contieneChiave(*nuove[k], propria))
             throw erroreDao(dao::kDuplicato);

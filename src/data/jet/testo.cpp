@@ -87,7 +87,7 @@ std::string scriviTesto(std::string_view utf8, bool puoComprimere) {
             byte += static_cast<char>(c >> 8);
     }
     // A plain text that happens to begin like a compressed one (U+FEFF) would be read as such.
-    if (!stretto && byte.starts_with("\xFF\xFE"))
+    while (!stretto && byte.starts_with("\xFF\xFE"))
         byte.erase(0, 2);
     return byte;
 }

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -125,6 +126,41 @@ TEST(JetTesto, CompressoEAlternato) {
     for (const char* testo : {"", "a", "ab", "abc", "caffè", "aΩb", "😀😀"})
         for (const bool comprime : {false, true})
             EXPECT_EQ(leggiTesto(vista(scriviTesto(testo, comprime))), testo);
+    EXPECT_EQ(leggiTesto(vista(scriviTesto("\uFEFF\uFEFFabc", true))),
+              "abc"); // no prefix of a compressed one
+}
+
+TEST(JetDato, ScrittoSiRilegge) {
+    const std::string guid = "{00112233-4455-6677-8899-AABBCCDDEEFF}";
+    Colonna decimale = colonna(Tipo::Decimale), fisso = colonna(Tipo::Testo);
+    decimale.ordinamento = 28 | 4 << 8; // 28 figures, four of them behind the point
+    fisso.fissa = fisso.comprimibile = true;
+    fisso.lunghezza = 12;
+    const std::pair<Colonna, std::vector<std::pair<Dato, Dato>>> casi[] = {
+        {colonna(Tipo::Guid), {{guid, guid}, {guid.substr(1, 36), guid}}},
+        {decimale,
+         {{std::int64_t{-7}, "-7.0000"},
+          {12.34565, "12.3456"},
+          {-0.0, "0.0000"},
+          {"123456789012345678901234.5678", "123456789012345678901234.5678"},
+          {"1e3", "1000.0000"}}},
+        {colonna(Tipo::Doppio), {{-0.0, 0.0}, {1e300, 1e300}}},
+        {fisso, {{"abcd", "abcd  "}}},
+    };
+    for (const auto& [c, valori] : casi)
+        for (const auto& [scritto, letto] : valori)
+            EXPECT_EQ(leggiDato(c, vista(*scriviDato(c, scritto))), letto);
+    EXPECT_FALSE(std::signbit(
+        std::get<double>(leggiDato(colonna(Tipo::Doppio), vista(*scriviDato(colonna(Tipo::Doppio), -0.0))))));
+    const std::pair<Colonna, Dato> impossibili[] = {
+        {colonna(Tipo::Guid), "{00112233-4455-6677-8899-AABBCCDDEEF}"},
+        {colonna(Tipo::Guid), "{00112233-4455-6677+8899-AABBCCDDEEFF}"},
+        {decimale, "1234567890123456789012345.5678"},
+        {colonna(Tipo::Singolo), 1e300},
+    };
+    for (const auto& [c, dato] : impossibili)
+        EXPECT_EQ(guastoDi([&, &colonna = c, &valore = dato] { (void)scriviDato(colonna, valore); }),
+                  dao::kConversione);
 }
 
 TEST(JetIntestazione, RifiutaQuelCheNonDeveToccare) {

@@ -7,6 +7,7 @@
 #include "data/jet/tabella.h"
 #include "data/jet/testo.h"
 #include "data/jet/verifica.h"
+#include "tests/data/attesa_guasto.h"
 #include "tests/data/jet/esporta.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
@@ -267,6 +268,36 @@ TEST_P(JetModifica, UnaScritturaAMetaSiRipara) {
         Lavoro(pagine, tabella, 10).passo(10); // it can be worked on
     }
     EXPECT_GT(discordi, 0);
+}
+
+TEST(JetVincoli, ChiaviTroppoLungheENulliRichiesti) {
+    const prova::CartellaTemporanea cartella;
+    const auto file = cartella.percorso() / "archivio.mdb";
+    std::ofstream(file, std::ios::binary).close();
+    nuovoArchivio(file, 46000);
+    Pagine pagine(file, {.da_soli = true});
+    creaTabella(pagine, {"Righe",
+                         {{"A", Tipo::Testo, 255}, {"B", Tipo::Testo, 255}, {"N", Tipo::Lungo}},
+                         {{.nome = "Testi", .colonne = {0, 1}},
+                          {.nome = "N", .colonne = {2}, .richiesto = true, .ignoraNulli = true}}});
+    Tabella tabella(pagine, definizioneDi(pagine, "Righe"));
+    const auto inserisce = [&](const std::string& a, const std::string& b, const Dato& n) {
+        const auto& colonne = tabella.definizione().colonne;
+        return prova::guastoDi([&] {
+            tabella.inserisci(
+                {scriviDato(colonne[0], a), scriviDato(colonne[1], b), scriviDato(colonne[2], n)});
+        });
+    };
+    // A hyphen takes four bytes of a key, a letter one.
+    const std::string trattini(255, '-'), lettere(255, 'x');
+    EXPECT_EQ(inserisce("a", "b", {}), dao::kCampoRichiesto);
+    EXPECT_EQ(inserisce(trattini, trattini, std::int64_t{1}), dao::kRigaLunga);
+    for (int k = 0; k < 20; ++k) {
+        EXPECT_EQ(inserisce(trattini, std::string(40, '-'), std::int64_t{k}), 0);
+        EXPECT_EQ(inserisce(lettere, lettere, std::int64_t{k}), 0);
+        EXPECT_EQ(inserisce("", std::string(static_cast<std::size_t>(10 * k), '-'), std::int64_t{k}), 0);
+    }
+    EXPECT_EQ(verifica(pagine).discordanze, std::vector<std::string>());
 }
 
 /// Damage of many kinds: a few bits, a page of rubbish, a page in another's place, an end cut off.
