@@ -44,25 +44,51 @@ EsitoVerifica verificaAccess(const std::filesystem::path& file) {
     return {std::move(esame.discordanze), std::move(esame.note)};
 }
 
+/// Mends with a copy made before: it stays where something was mended or went wrong, and takes the place of
+/// an older one only then.
+template <typename Cambio>
+std::vector<std::string> conCopia(const std::filesystem::path& file, const std::filesystem::path& copia,
+                                  Cambio&& cambio) {
+    auto nuova = copia;
+    nuova += ".tmp";
+    std::error_code ec;
+    if (!std::filesystem::copy_file(file, nuova, std::filesystem::copy_options::overwrite_existing, ec)) {
+        std::error_code ignorato;
+        std::filesystem::remove(nuova, ignorato);
+        throw erroreDao(ec == std::errc::no_space_on_device ? dao::kDiscoPieno : dao::kPermesso,
+                        copia.string());
+    }
+    std::vector<std::string> fatto;
+    try {
+        fatto = cambio();
+    } catch (const Guasto&) {
+        std::filesystem::rename(nuova, copia, ec);
+        throw;
+    }
+    if (fatto.empty())
+        std::filesystem::remove(nuova, ec);
+    else
+        std::filesystem::rename(nuova, copia, ec);
+    return fatto;
+}
+
 } // namespace
 
 std::vector<std::string> riparaArchivio(const std::filesystem::path& file,
                                         const std::filesystem::path& copia) {
-    const Formato formato = formatoDi(file);
-    std::error_code ec;
-    if (!std::filesystem::copy_file(file, copia, std::filesystem::copy_options::overwrite_existing, ec))
-        throw erroreDao(dao::kPermesso, copia.string());
-    if (formato == Formato::Access) {
+    if (formatoDi(file) == Formato::Access) {
         jet::Pagine pagine(file, {.computer = nomeComputer()});
         if (pagine.altreStazioni())
             throw erroreDao(dao::kInUso, file.string());
-        return jet::ripara(pagine);
+        return conCopia(file, copia, [&] { return jet::ripara(pagine); });
     }
-    const std::unique_ptr<Motore> motore = apriMotore(file, std::chrono::milliseconds(0));
-    if (sqlite3_exec(motore->connessione(), "BEGIN EXCLUSIVE; REINDEX; COMMIT", nullptr, nullptr, nullptr) !=
-        SQLITE_OK)
-        throw erroreSqlite(motore->connessione(), Operazione::Apertura);
-    return {"Rifatti tutti gli indici."};
+    return conCopia(file, copia, [&]() -> std::vector<std::string> {
+        const std::unique_ptr<Motore> motore = apriMotore(file, std::chrono::milliseconds(0));
+        if (sqlite3_exec(motore->connessione(), "BEGIN EXCLUSIVE; REINDEX; COMMIT", nullptr, nullptr,
+                         nullptr) != SQLITE_OK)
+            throw erroreSqlite(motore->connessione(), Operazione::Apertura);
+        return {"Rifatti tutti gli indici."};
+    });
 }
 
 EsitoVerifica verificaArchivio(const std::filesystem::path& file) {

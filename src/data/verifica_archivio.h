@@ -16,8 +16,10 @@ struct EsitoVerifica {
 /// Guasto where it can't be opened.
 [[nodiscard]] EsitoVerifica verificaArchivio(const std::filesystem::path& file);
 
-/// Mends an archive that nobody else has open; a copy of it as it was stays beside it (`copia`). Returns what
-/// was done, a line each. Throws Guasto 3045 where another station has it open, and where it is past mending.
+/// Mends an archive that nobody else has open; where anything was mended a copy of it as it was stays beside
+/// it
+/// (`copia`). Returns what was done, a line each. Throws Guasto 3045 where another station has it open, and
+/// where it is past mending.
 [[nodiscard]] std::vector<std::string> riparaArchivio(const std::filesystem::path& file,
                                                       const std::filesystem::path& copia);
 

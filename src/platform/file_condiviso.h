@@ -25,10 +25,14 @@ public:
     FileCondiviso(FileCondiviso&& altro) noexcept;
     FileCondiviso& operator=(FileCondiviso&& altro) noexcept;
 
+    /// False where the file's name stands for nothing any more, or for another file.
+    [[nodiscard]] bool alSuoPosto() const;
     [[nodiscard]] std::uint64_t lunghezza() const;
     /// Returns how many bytes there were: fewer than asked for at the file's end.
     [[nodiscard]] std::size_t leggi(std::uint64_t posto, std::span<std::uint8_t> byte) const;
     void scrivi(std::uint64_t posto, std::span<const std::uint8_t> byte);
+    /// Cuts off what lies beyond that length.
+    void tronca(std::uint64_t lunghezza);
     /// Returns when all that was written lies on the disk.
     void consolida();
 
@@ -40,6 +44,7 @@ public:
     [[nodiscard]] std::optional<Intervallo> bloccoAltrui(Intervallo intervallo, bool esclusivo) const;
 
 private:
+    std::filesystem::path file_;
     std::intptr_t maniglia_ = -1;
 };
 

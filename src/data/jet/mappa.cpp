@@ -6,13 +6,13 @@ namespace lumigrafo::jet {
 
 namespace {
 
-/// Appends the pages whose bits are set; `base` is the page of the first bit. Pages behind `fine` are left.
+/// Appends the pages from `da` up to `fine` whose bits are set; `base` is the page of the first bit.
 void accoda(std::vector<std::uint32_t>& pagine, std::span<const std::uint8_t> bit, std::uint64_t base,
-            std::uint32_t fine) {
+            std::uint32_t da, std::uint32_t fine) {
     for (std::size_t j = 0; j < bit.size() && base + 8 * j < fine; ++j)
         for (unsigned k = 0; bit[j] != 0 && k < 8; ++k)
-            if ((bit[j] >> k & 1) && base + 8 * j + k < fine)
-                pagine.push_back(static_cast<std::uint32_t>(base + 8 * j + k));
+            if (const std::uint64_t p = base + 8 * j + k; (bit[j] >> k & 1) && p >= da && p < fine)
+                pagine.push_back(static_cast<std::uint32_t>(p));
 }
 
 bool acceso(std::span<const std::uint8_t> bit, std::uint32_t i) {
@@ -30,16 +30,24 @@ Vista Mappa::riga() const {
 }
 
 std::vector<std::uint32_t> Mappa::tutte() const {
+    return elenco(0, pagine_.quante());
+}
+
+std::vector<std::uint32_t> Mappa::oltreLaFine() const {
+    return elenco(pagine_.quante(), Pagine::kMassime);
+}
+
+std::vector<std::uint32_t> Mappa::elenco(std::uint32_t da, std::uint32_t fine) const {
     std::vector<std::uint32_t> v;
     const Vista r = riga();
     if (r.u8(0) == InRiga) {
-        accoda(v, r.da(kTestaRiga).byte(), r.u32(1), pagine_.quante());
+        accoda(v, r.da(kTestaRiga).byte(), r.u32(1), da, fine);
         return v;
     }
     for (std::size_t i = 0; 1 + 4 * (i + 1) <= r.lunga(); ++i)
         if (const std::uint32_t p = r.u32(1 + 4 * i))
             accoda(v, pagine_.leggi(p, TipoPagina::Mappa)->vista(p).da(kTestaPagina).byte(),
-                   std::uint64_t{kBitPerPagina} * i, pagine_.quante());
+                   std::uint64_t{kBitPerPagina} * i, da, fine);
     return v;
 }
 

@@ -16,6 +16,8 @@ public:
 
     /// The pages of the set that lie inside the file, ascending. Throws Guasto 3049.
     [[nodiscard]] std::vector<std::uint32_t> tutte() const;
+    /// Those that don't: of a table's or an index's set, proof that the file was cut short.
+    [[nodiscard]] std::vector<std::uint32_t> oltreLaFine() const;
     [[nodiscard]] bool contiene(std::uint32_t numero) const;
     /// The bitmap pages of a set that has such.
     [[nodiscard]] std::vector<std::uint32_t> pagineDiBit() const;
@@ -30,6 +32,7 @@ private:
     static constexpr std::uint32_t kBitPerPagina = 8 * (kPagina - kTestaPagina);
     enum Genere : std::uint8_t { InRiga = 0, APagine = 1 };
 
+    [[nodiscard]] std::vector<std::uint32_t> elenco(std::uint32_t da, std::uint32_t fine) const;
     [[nodiscard]] Vista riga() const;
     [[nodiscard]] std::span<std::uint8_t> rigaDaModificare();
     [[nodiscard]] bool cambia(std::uint32_t numero, bool dentro);

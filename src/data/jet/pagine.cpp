@@ -95,6 +95,9 @@ bool Pagine::qualcunoScrive(const Parole& parole) const {
 std::int64_t Pagine::aggiorna() {
     // Who only reads can't tell a station that writes from one that died at it: no commit takes so long.
     constexpr std::chrono::milliseconds kCommitMassimo{300};
+    if (!file_.alSuoPosto() || (stazione_ && !stazione_->valida()))
+        throw Guasto(dao::kDisco, "L'archivio, o il suo file dei blocchi, è stato spostato o sostituito "
+                                  "mentre era in uso: va riaperto.");
     Parole ora;
     leggiParole(ora);
     for (Pazienza pazienza(stazione_ ? apertura_.attesa : std::min(apertura_.attesa, kCommitMassimo));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/errori_dao.h"
 #include "data/jet/intestazione.h"
 #include "data/jet/parole.h"
 #include "data/jet/pazienza.h"
@@ -21,6 +22,8 @@ namespace lumigrafo::jet {
 /// and on top of them the pages that this station's transaction has changed and not yet written.
 class Pagine {
 public:
+    static constexpr std::uint32_t kMassime = 0x80000; ///< pages of a file: 2 GB
+
     struct Apertura {
         bool sola_lettura = false;
         bool da_soli = false;               ///< nobody else can know the file: no locks, no .ldb
@@ -107,7 +110,8 @@ private:
     void svuota();
     [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;
     void sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept;
-    void scriviPagine(const std::vector<std::uint32_t>& ordine);
+    [[nodiscard]] bool cambiataNelFile(std::uint32_t numero);
+    void scriviPagine(const std::vector<std::uint32_t>& ordine, bool& rimesse);
     [[nodiscard]] std::vector<std::uint32_t> ordineDiScrittura() const;
     void scrivi(std::uint32_t numero, const Pagina& pagina);
     [[nodiscard]] std::set<std::uint32_t> bloccate() const;
@@ -132,9 +136,11 @@ auto Pagine::coerente(Lettura&& lettura) {
             auto esito = lettura();
             if (immutata() || !pazienza.ancora())
                 return esito;
-        } catch (const Guasto&) { // what fits together badly may be half of two states
-            if (immutata() || !pazienza.ancora())
+        } catch (const Guasto&) { // what fits together badly may be half of two states, and no damage
+            if (immutata())
                 throw;
+            if (!pazienza.ancora())
+                throw erroreDao(dao::kBloccatoLettura);
         }
     }
 }
@@ -144,8 +150,10 @@ auto Pagine::cambia(Cambio&& cambio) {
     const Segno prima = segno();
     const std::set<std::uint32_t> nostre = bloccate();
     for (Pazienza pazienza(attesa_);;) {
+        bool cominciato = false;
         try {
             aggiorna();
+            cominciato = true;
             auto esito = cambio();
             if (!immutata())
                 throw StatoVecchio{};
@@ -154,7 +162,7 @@ auto Pagine::cambia(Cambio&& cambio) {
             tornaA(prima); // what was locked stays so: the next try can't be outrun on it
         } catch (const Guasto& guasto) {
             tornaA(prima);
-            const bool vecchio = !immutata();
+            const bool vecchio = cominciato && !immutata();
             sbloccaNuove(nostre);
             if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
                 throw;

@@ -1,5 +1,6 @@
 // The half of Pagine that changes the archive.
 #include "data/errori_dao.h"
+#include "data/jet/pagina_dati.h"
 #include "data/jet/pagine.h"
 
 #include <algorithm>
@@ -9,11 +10,12 @@ namespace lumigrafo::jet {
 
 namespace {
 
-/// Children before parents: who dies in between leaves at worst pages that nobody refers to.
+/// Rows before indexes, children before parents, and then the maps: who dies in between leaves at worst pages
+/// that nobody refers to.
 int rango(const Pagina& pagina) {
     switch (pagina.tipo()) {
-    case TipoPagina::Dati:
-        return 0;
+    case TipoPagina::Dati: // maps lie on such pages too, which are no table's own
+        return pagina.u32(PaginaDati::kProprietario) <= kPaginaMappaGlobale ? 3 : 0;
     case TipoPagina::Foglia:
         return 1;
     case TipoPagina::Nodo:
@@ -47,8 +49,18 @@ void Pagine::bloccaPagina(std::uint32_t numero) {
         throw Guasto(kOccupata, "Impossibile aggiornare; attualmente bloccato da " +
                                     (altra.empty() ? "un'altra stazione." : "'" + altra + "'."));
     }
-    if (!immutata()) // what was read of the page before it was locked may be old
+    if (!immutata() || cambiataNelFile(numero)) // what was read of the page before it was locked may be old
         throw StatoVecchio{};
+}
+
+/// The commit words don't tell of every station what it wrote: the page itself does.
+bool Pagine::cambiataNelFile(std::uint32_t numero) {
+    if (numero >= nelFile_
+            ? file_.lunghezza() <= std::uint64_t{numero} * kPagina
+            : numero >= cache_.size() || !cache_[numero] || dalFile(numero)->byte == cache_[numero]->byte)
+        return false;
+    svuota();
+    return true;
 }
 
 void Pagine::riserva(std::uint32_t numero) {
@@ -70,9 +82,8 @@ Pagina& Pagine::modifica(std::uint32_t numero) {
 }
 
 std::uint32_t Pagine::aggiungi() {
-    constexpr std::uint32_t kMassimo = 0x80000; // 2 GB
     const std::uint32_t numero = quante_;
-    if (numero >= kMassimo)
+    if (numero >= kMassime)
         throw erroreDao(dao::kDiscoPieno);
     bloccaPagina(numero);
     cambiate_.emplace(numero, std::make_shared<Pagina>());
@@ -112,7 +123,8 @@ std::vector<std::uint32_t> Pagine::ordineDiScrittura() const {
     return ordine;
 }
 
-void Pagine::scriviPagine(const std::vector<std::uint32_t>& ordine) {
+/// `rimesse`: after a failure, whether the file is again as it was.
+void Pagine::scriviPagine(const std::vector<std::uint32_t>& ordine, bool& rimesse) {
     std::map<std::uint32_t, std::shared_ptr<Pagina>> vecchie;
     for (const std::uint32_t n : ordine)
         if (n < nelFile_)
@@ -122,8 +134,12 @@ void Pagine::scriviPagine(const std::vector<std::uint32_t>& ordine) {
             scrivi(n, *cambiate_.at(n));
         file_.consolida();
     } catch (const Guasto&) {
-        for (const auto& [n, pagina] : vecchie)
-            scrivi(n, *pagina);
+        rimesse = ignorandoGuasti([&] {
+            for (const auto& [n, pagina] : vecchie)
+                scrivi(n, *pagina);
+            if (quante_ > nelFile_)
+                file_.tronca(std::uint64_t{nelFile_} * kPagina);
+        });
         throw;
     }
 }
@@ -134,13 +150,17 @@ void Pagine::registra() {
     Parole prima;
     leggiParole(prima);
     const std::uint16_t parola = prima.di(utente());
-    scriviParola(utente(), Parole::kScrive);
+    if (parola == Parole::kScrive)
+        throw danno(kPaginaIntestazione, "una scrittura di questa stazione è rimasta a metà");
+    bool rimesse = true;
     try {
-        scriviPagine(ordineDiScrittura());
+        scriviParola(utente(), Parole::kScrive);
+        scriviPagine(ordineDiScrittura(), rimesse);
     } catch (const Guasto&) {
-        // Where not even this goes through, the word stays at "writing" and tells that the archive is
-        // suspect.
-        ignorandoGuasti([&] { scriviParola(utente(), parola); });
+        // Where not all was undone the word stays at "writing" and tells that the archive is suspect. The old
+        // word never comes back: somebody may have read in between.
+        if (rimesse)
+            ignorandoGuasti([&] { scriviParola(utente(), Parole::successiva(parola)); });
         abbandona();
         throw;
     }

@@ -62,6 +62,7 @@ private:
     /// Pages that aren't the table's leave its map; the count of free bytes is made anew.
     void pagineDiDati() {
         Mappa possedute(pagine_, definizione_.possedute);
+        togliPerse(possedute);
         for (const std::uint32_t n : possedute.tutte()) {
             bool sua = false;
             ignorandoGuasti([&] {
@@ -83,6 +84,15 @@ private:
                 fatto_.push_back(nome_ + ": tolta la pagina " + std::to_string(n) + ", che non è leggibile.");
             }
         }
+    }
+
+    void togliPerse(Mappa& mappa) {
+        const auto perse = mappa.oltreLaFine();
+        for (const std::uint32_t n : perse)
+            mappa.togli(n);
+        if (!perse.empty())
+            fatto_.push_back(nome_ + ": il file è stato troncato, mancano " + std::to_string(perse.size()) +
+                             " pagine.");
     }
 
     /// A moved row and its address belong together: what has lost the other is dropped.
@@ -122,6 +132,7 @@ private:
 
     void conPosto() {
         Mappa libere(pagine_, definizione_.libere);
+        togliPerse(libere);
         for (const std::uint32_t n : libere.tutte())
             if (!std::binary_search(pagine_di_dati_.begin(), pagine_di_dati_.end(), n)) {
                 libere.togli(n);
@@ -139,7 +150,9 @@ private:
             return; // texts that have no key: the index is left as it is
         }
         std::sort(attese.begin(), attese.end());
-        bool sano = true;
+        if (i.unico)
+            doppie(i, attese);
+        bool sano = Mappa(pagine_, i.mappa).oltreLaFine().empty();
         sano = ignorandoGuasti([&] {
                    EsameIndice esame(pagine_, definizione_, i, [&](auto, const auto&) { sano = false; });
                    sano = esame.voci() == attese && sano;
@@ -149,12 +162,34 @@ private:
             rifai(i, attese);
     }
 
+    /// Which of two rows is the right one nobody but the user knows. A key of nulls alone may be there twice.
+    void doppie(const Indice& i, const std::vector<std::string>& attese) {
+        for (std::size_t k = 1; k < attese.size(); ++k)
+            if (const Voce v{attese[k]};
+                v.chiave() == Voce{attese[k - 1]}.chiave() && v.chiave().size() > i.colonne.size())
+                fatto_.push_back(nome_ + ": due righe hanno la stessa chiave nell'indice '" + i.nome +
+                                 "', una va tolta a mano.");
+    }
+
+    /// A damaged map may name pages of others: they stay theirs.
+    [[nodiscard]] bool soloSua(const Indice& i, std::uint32_t numero) const {
+        const PaginaLetta p = pagine_.leggi(numero);
+        if ((p->tipo() != TipoPagina::Foglia && p->tipo() != TipoPagina::Nodo) ||
+            p->u32(PaginaDati::kProprietario) != definizione_.pagina)
+            return false;
+        return std::none_of(definizione_.indici.begin(), definizione_.indici.end(), [&](const Indice& altro) {
+            return altro.radice == numero || (&altro != &i && Mappa(pagine_, altro.mappa).contiene(numero));
+        });
+    }
+
     void rifai(const Indice& i, const std::vector<std::string>& attese) {
         Mappa mappa(pagine_, i.mappa);
+        togliPerse(mappa);
         for (const std::uint32_t n : mappa.tutte())
             if (n != i.radice) {
                 mappa.togli(n);
-                liberaPagina(pagine_, n);
+                if (soloSua(i, n))
+                    liberaPagina(pagine_, n);
             }
         mappa.aggiungi(i.radice);
         PaginaIndice vuota;

@@ -6,7 +6,10 @@ namespace lumigrafo::jet {
 
 std::vector<RigaTrovata> scorri(Pagine& pagine, const Definizione& definizione) {
     std::vector<RigaTrovata> righe;
-    for (const std::uint32_t numero : Mappa(pagine, definizione.possedute).tutte()) {
+    const Mappa possedute(pagine, definizione.possedute);
+    if (const auto perse = possedute.oltreLaFine(); !perse.empty())
+        throw danno(perse.front(), "oltre la fine del file");
+    for (const std::uint32_t numero : possedute.tutte()) {
         const PaginaLetta pagina = pagine.leggi(numero);
         if (pagina->tipo() != TipoPagina::Dati ||
             pagina->u32(PaginaDati::kProprietario) != definizione.pagina)

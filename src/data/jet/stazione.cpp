@@ -76,15 +76,26 @@ void Stazione::sblocca(std::uint32_t pagina) {
         file_.sblocca(scrittura(pagina));
 }
 
-std::string Stazione::titolare(std::uint32_t pagina) const {
-    const auto altrui = file_.bloccoAltrui(scrittura(pagina), true);
-    if (!altrui)
-        return {};
-    const std::uint64_t ultimo = altrui->inizio + altrui->lunghezza - 1;
-    const std::uint64_t inizio = kPagine + kPassoPagina * pagina;
+/// The user number is told from where the lock ends. Some file systems (SMB) only say that a range is taken
+/// and not what lock takes it, so its bytes are tried one by one.
+unsigned Stazione::chiBlocca(std::uint32_t pagina) const {
+    const auto preso = [&](std::uint64_t posto) {
+        return file_.bloccoAltrui({kPagine + kPassoPagina * pagina + posto, 1}, true).has_value();
+    };
+    unsigned utente = 0;
+    for (unsigned passo = (kMassimo + 1) / 2; passo > 0; passo /= 2)
+        if (preso(kPosti + utente + passo))
+            utente += passo;
     // A shared lock is one byte at its holder's place.
-    const std::uint64_t utente = altrui->lunghezza == 1 ? ultimo - inizio : ultimo - inizio - kPosti;
-    if (utente < 1 || utente > kMassimo)
+    for (unsigned u = 1; utente == 0 && u <= kMassimo; ++u)
+        if (preso(u))
+            utente = u;
+    return utente;
+}
+
+std::string Stazione::titolare(std::uint32_t pagina) const {
+    const unsigned utente = chiBlocca(pagina);
+    if (utente == 0)
         return {};
     std::array<std::uint8_t, kNome> nome{};
     (void)file_.leggi((utente - 1) * kVoce, nome);

@@ -29,6 +29,8 @@ public:
     }
 
     [[nodiscard]] unsigned utente() const { return utente_; }
+    /// False where somebody has removed or replaced the file: stations that come later lock another one.
+    [[nodiscard]] bool valida() const { return file_.alSuoPosto(); }
     /// Whether a station other than this one is there under that number (1 to 255).
     [[nodiscard]] bool presente(unsigned utente) const;
 
@@ -43,6 +45,7 @@ public:
 private:
     explicit Stazione(const std::filesystem::path& archivio);
     bool prendi(unsigned utente, const std::string& computer);
+    [[nodiscard]] unsigned chiBlocca(std::uint32_t pagina) const; ///< 0: nobody, any more
     [[noreturn]] static void tuttiPresi();
     [[nodiscard]] FileCondiviso::Intervallo scrittura(std::uint32_t pagina) const;
 

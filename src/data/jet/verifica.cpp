@@ -75,6 +75,9 @@ private:
         pagineDiMappe_.insert(posizione.pagina);
         const Mappa m(pagine_, posizione);
         usaPagineDiBit(m, chi);
+        if (const auto perse = m.oltreLaFine(); !perse.empty())
+            discorda(chi + ": mancano " + std::to_string(perse.size()) +
+                     " pagine, il file è stato troncato.");
         return m.tutte();
     }
 

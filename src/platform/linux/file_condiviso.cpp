@@ -61,7 +61,8 @@ int comanda(std::intptr_t maniglia, int comando, struct flock& f) {
 
 } // namespace
 
-FileCondiviso::FileCondiviso(const std::filesystem::path& file, Modo modo) {
+FileCondiviso::FileCondiviso(const std::filesystem::path& file, Modo modo)
+    : file_(std::filesystem::absolute(file)) {
     auto f = apri(file, modoDi(modo), 0666);
     if (!f.aperto())
         guastoDelSistema();
@@ -73,11 +74,19 @@ FileCondiviso::~FileCondiviso() {
 }
 
 FileCondiviso::FileCondiviso(FileCondiviso&& altro) noexcept
-    : maniglia_(std::exchange(altro.maniglia_, -1)) {}
+    : file_(std::move(altro.file_)), maniglia_(std::exchange(altro.maniglia_, -1)) {}
 
 FileCondiviso& FileCondiviso::operator=(FileCondiviso&& altro) noexcept {
+    std::swap(file_, altro.file_);
     std::swap(maniglia_, altro.maniglia_);
     return *this;
+}
+
+bool FileCondiviso::alSuoPosto() const {
+    struct stat aperto {};
+    struct stat nominato {};
+    return ::fstat(static_cast<int>(maniglia_), &aperto) == 0 && ::stat(file_.c_str(), &nominato) == 0 &&
+           aperto.st_dev == nominato.st_dev && aperto.st_ino == nominato.st_ino;
 }
 
 std::uint64_t FileCondiviso::lunghezza() const {
@@ -113,6 +122,12 @@ void FileCondiviso::scrivi(std::uint64_t posto, std::span<const std::uint8_t> by
         byte = byte.subspan(static_cast<std::size_t>(n));
         posto += static_cast<std::uint64_t>(n);
     }
+}
+
+void FileCondiviso::tronca(std::uint64_t lunghezza) {
+    if (riprovando([&] { return ::ftruncate(static_cast<int>(maniglia_), static_cast<off_t>(lunghezza)); }) !=
+        0)
+        guastoDelSistema();
 }
 
 void FileCondiviso::consolida() {

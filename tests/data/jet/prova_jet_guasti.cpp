@@ -1,0 +1,182 @@
+// What goes wrong outside: a disk that fills up in the midst of a commit, a station that leaves the commit
+// words alone, files that were cut short or whose maps are damaged.
+#include "data/errori_dao.h"
+#include "data/jet/catalogo.h"
+#include "data/jet/dato.h"
+#include "data/jet/mappa.h"
+#include "data/jet/nuovo_archivio.h"
+#include "data/jet/tabella.h"
+#include "data/jet/verifica.h"
+#include "data/verifica_archivio.h"
+#include "tests/data/attesa_guasto.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+#include <algorithm>
+#include <csignal>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <sys/resource.h>
+
+namespace lumigrafo::jet {
+namespace {
+
+using prova::guastoDi;
+
+class JetGuasti : public ::testing::Test {
+protected:
+    JetGuasti() {
+        std::ofstream(file, std::ios::binary).close();
+        nuovoArchivio(file, 46000);
+        Pagine pagine(file, {.da_soli = true});
+        for (const char* nome : {"Prima", "Seconda"})
+            creaTabella(pagine,
+                        {nome,
+                         {{"N", Tipo::Lungo}, {"M", Tipo::Lungo}, {"T", Tipo::Testo, 255}},
+                         {{.nome = "N", .colonne = {0}, .unico = true}, {.nome = "T", .colonne = {2}}}});
+        pagine.registra();
+        aggiungi(pagine, "Prima", 1, 60);
+        aggiungi(pagine, "Seconda", 1, 60);
+        pagine.registra();
+    }
+    static Tabella tabella(Pagine& pagine, const std::string& nome) {
+        const auto voci = leggiCatalogo(pagine);
+        const auto v =
+            std::find_if(voci.begin(), voci.end(), [&](const VoceCatalogo& x) { return x.nome == nome; });
+        return {pagine, v->definizione};
+    }
+    static void aggiungi(Pagine& pagine, const std::string& nome, int da, int fine) {
+        Tabella t = tabella(pagine, nome);
+        const auto& colonne = t.definizione().colonne;
+        for (std::int64_t n = da; n <= fine; ++n)
+            t.inserisci({scriviDato(colonne[0], n), scriviDato(colonne[1], std::int64_t{0}),
+                         scriviDato(colonne[2], std::string(200, static_cast<char>('a' + n % 26)))});
+    }
+    std::vector<std::string> discordanze() const {
+        Pagine pagine(file, {.sola_lettura = true});
+        return verifica(pagine).discordanze;
+    }
+    std::string byte() const {
+        std::ostringstream s;
+        s << std::ifstream(file, std::ios::binary).rdbuf();
+        return s.str();
+    }
+
+    prova::CartellaTemporanea cartella;
+    const std::filesystem::path file = cartella.percorso() / "archivio.mdb";
+};
+
+/// No file of this process grows beyond that many bytes while it lives.
+class DiscoPieno {
+public:
+    explicit DiscoPieno(rlim_t byte) : vecchio_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &prima_);
+        const rlimit ora{byte, prima_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &ora);
+    }
+    ~DiscoPieno() {
+        ::setrlimit(RLIMIT_FSIZE, &prima_);
+        std::signal(SIGXFSZ, vecchio_);
+    }
+    DiscoPieno(const DiscoPieno&) = delete;
+    DiscoPieno& operator=(const DiscoPieno&) = delete;
+
+private:
+    rlimit prima_{};
+    void (*vecchio_)(int);
+};
+
+TEST_F(JetGuasti, DiscoPienoNelMezzoDiUnaScrittura) {
+    const std::string prima = byte();
+    Pagine pagine(file, {});
+    aggiungi(pagine, "Prima", 61, 200);
+    {
+        const DiscoPieno pieno(prima.size() + kPagina + 1000); // a page and a part of one go through
+        EXPECT_EQ(guastoDi([&] { pagine.registra(); }), guasti::kDiscoPieno);
+    }
+    const std::string dopo = byte();
+    EXPECT_EQ(dopo.size(), prima.size());
+    EXPECT_EQ(dopo.substr(kPagina), prima.substr(kPagina));
+    EXPECT_NE(dopo.substr(kParoleCommit, 4), prima.substr(kParoleCommit, 4)); // others must read again
+    EXPECT_EQ(discordanze(), std::vector<std::string>());
+    aggiungi(pagine, "Prima", 61, 200);
+    pagine.registra();
+    EXPECT_EQ(tabella(pagine, "Prima").righe().size(), 200u);
+}
+
+TEST_F(JetGuasti, UnaStazioneCheLasciaStareLeParole) {
+    Pagine pagine(file, {});
+    Tabella qui = tabella(pagine, "Prima");
+    const Posizione riga = qui.righe().front().posizione;
+    const std::string parole = byte().substr(0, kPagina);
+    const auto cambia = [&](Tabella& t, std::size_t colonna, std::int64_t n) {
+        t.aggiorna(riga, {{colonna, scriviDato(t.definizione().colonne[colonna], n)}});
+        t.pagine().registra();
+    };
+    {
+        Pagine altrove(file, {});
+        Tabella la = tabella(altrove, "Prima");
+        cambia(la, 1, 77);
+    }
+    std::fstream(file, std::ios::in | std::ios::out | std::ios::binary) << parole;
+    cambia(qui, 0, 1000);
+    const Campi campi = Riga(qui.definizione(), qui.riga(riga)->byte).campi();
+    EXPECT_EQ(campi[0], scriviDato(qui.definizione().colonne[0], std::int64_t{1000}));
+    EXPECT_EQ(campi[1], scriviDato(qui.definizione().colonne[1], std::int64_t{77}));
+}
+
+TEST_F(JetGuasti, UnFileSostituitoMentreEInUsoNonSiUsaPiu) {
+    for (const char* estensione : {".mdb", ".ldb"}) {
+        Pagine pagine(file, {});
+        Tabella t = tabella(pagine, "Prima");
+        auto sostituito = file;
+        sostituito.replace_extension(estensione);
+        const auto copia = cartella.percorso() / "copia";
+        std::filesystem::copy_file(sostituito, copia);
+        std::filesystem::rename(copia, sostituito);
+        EXPECT_EQ(guastoDi([&] { t.elimina(Posizione{}); }), dao::kDisco) << estensione;
+    }
+}
+
+TEST_F(JetGuasti, UnFileTroncatoFraDuePagineNonPerdeRigheInSilenzio) {
+    const std::string intero = byte();
+    std::uint32_t ultima = 0;
+    {
+        Pagine pagine(file, {.sola_lettura = true});
+        ultima = Mappa(pagine, tabella(pagine, "Seconda").definizione().possedute).tutte().back();
+    }
+    std::filesystem::resize_file(file, std::size_t{ultima} * kPagina);
+    Pagine pagine(file, {.attesa = std::chrono::milliseconds(0)});
+    EXPECT_EQ(guastoDi([&] { (void)tabella(pagine, "Seconda").righe(); }), dao::kDanneggiato);
+    EXPECT_FALSE(verifica(pagine).discordanze.empty());
+}
+
+TEST_F(JetGuasti, RiparareUnaMappaDannosaNonToccaLeTabelleAltrui) {
+    {
+        Pagine pagine(file, {.da_soli = true});
+        const Definizione prima = tabella(pagine, "Prima").definizione();
+        const Definizione seconda = tabella(pagine, "Seconda").definizione();
+        pagine.cambia([&] {
+            // Its index claims the other's rows and its own other index, and has lost its entries.
+            Mappa mappa(pagine, prima.indici[1].mappa);
+            for (const Posizione altrui : {seconda.possedute, prima.indici[0].mappa})
+                for (const std::uint32_t p : Mappa(pagine, altrui).tutte())
+                    mappa.aggiungi(p);
+            pagine.modifica(prima.indici[1].radice).scrivi16(24, 900);
+            return true;
+        });
+        pagine.registra();
+    }
+    // The copy is of the damaged file, also when there is nothing left to mend.
+    const auto copia = cartella.percorso() / "prima.mdb";
+    EXPECT_FALSE(riparaArchivio(file, copia).empty());
+    EXPECT_TRUE(riparaArchivio(file, copia).empty());
+    EXPECT_FALSE(verificaArchivio(copia).discordanze.empty());
+    EXPECT_EQ(discordanze(), std::vector<std::string>());
+    Pagine pagine(file, {});
+    for (const char* nome : {"Prima", "Seconda"})
+        EXPECT_EQ(tabella(pagine, nome).righe().size(), 60u);
+}
+
+} // namespace
+} // namespace lumigrafo::jet
