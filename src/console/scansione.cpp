@@ -20,7 +20,7 @@ constexpr std::size_t kTestoLungo = 30; ///< characters; longer ones take the sm
 } // namespace
 
 Scansione::Scansione(ContestoConsole& contesto, Chiamata& chiamata)
-    : c_(contesto), chiamata_(chiamata), TimerBarCode_(c_.porte.timers.crea(500ms, [this] { scatto(); })) {}
+    : c_(contesto), chiamata_(chiamata), TimerBarCode_(c_.porte.timers.crea(500ms, [this] { silenzio(); })) {}
 
 bool Scansione::tasto(char32_t carattere) {
     Controllo& casella = c_.controlli("txtBarCode");
@@ -32,6 +32,7 @@ bool Scansione::tasto(char32_t carattere) {
         TimerBarCode_->abilita(false);
         casella.Caption(casella.Caption() + static_cast<char>(carattere));
         TimerBarCode_->abilita(true); // 500 ms of silence end a code
+        ++tasti_;
         return true;
     }
     if (!trim(casella.Caption()).empty()) {
@@ -39,6 +40,17 @@ bool Scansione::tasto(char32_t carattere) {
         scatto();
     }
     return false;
+}
+
+void Scansione::silenzio() {
+    if (c_.stato.BarCodeInCorso || c_.controlli("txtBarCode").Caption().empty())
+        return;
+    // After a rebuild or a wait for the archive the tick can come ahead of keys that were typed long before
+    // it: the program was busy, the scanner wasn't silent.
+    const auto prima = tasti_;
+    c_.cedi("TimerBarCode/tasti");
+    if (tasti_ == prima)
+        scatto();
 }
 
 void Scansione::scatto() {

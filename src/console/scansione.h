@@ -24,6 +24,8 @@ public:
     void MostraEsitoBarCode(bool ok, const std::string& testo, std::int32_t colore = 0);
 
 private:
+    /// The tick of the timer.
+    void silenzio();
     void scatto();
     [[nodiscard]] std::int16_t quadranteDi(std::int16_t categoria) const;
     [[nodiscard]] bool trovaCella(std::int16_t quadrante, const std::string& testo);
@@ -32,6 +34,7 @@ private:
     ContestoConsole& c_;
     Chiamata& chiamata_;
     std::unique_ptr<Timer> TimerBarCode_;
+    unsigned tasti_ = 0; ///< keys of codes so far
 };
 
 } // namespace lumigrafo

@@ -146,6 +146,20 @@ TEST_F(Scansioni, SilenceEndsACodeAndOtherKeysDo) {
     EXPECT_EQ(c("txtBarCode").Caption(), "");
 }
 
+TEST_F(Scansioni, KeysThatWaitedWhileTheProgramWasBusyAreNoSilence) {
+    b.caricata();
+    for (const char tasto : std::string("5996501"))
+        b.console().tasto(static_cast<unsigned char>(tasto));
+    b.pompa.alPunto("TimerBarCode/tasti", [this] { // the tick came first
+        for (const char tasto : std::string("001233"))
+            b.console().tasto(static_cast<unsigned char>(tasto));
+    });
+    b.timers.avanza(500ms);
+    EXPECT_EQ(c("txtBarCode").Caption(), "5996501001233");
+    b.timers.avanza(500ms);
+    EXPECT_EQ(b.posti(0)[2], "A 123");
+}
+
 TEST_F(Scansioni, ACodeCannotStartInsideAnother) {
     b.caricata();
     // The timer's own tick, in the events that the strike-off lets through.
