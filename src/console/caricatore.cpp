@@ -5,6 +5,7 @@
 #include "data/istruzioni.h"
 #include "platform/guasto.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 
@@ -116,11 +117,20 @@ void Caricatore::CaricaVideataInizio(bool) {
     inCorso_ = true;
     c_.stato.Db->Execute(istruzioni::kTogliServiti);
     c_.porte.orologio.attendi(400ms);
+    accettaTocchi();
     riempiGriglie();
     ContaPezzi();
     c_.cedi("CaricaVideataInizio/9");
     mostraPezzi();
     inCorso_ = false;
+}
+
+/// Who touched an order during the wait means the one that is still on show, and not what the rebuild puts in
+/// its place.
+void Caricatore::accettaTocchi() {
+    const auto& griglie = c_.stato.grid;
+    if (std::any_of(griglie.begin(), griglie.end(), [](const Griglia& grid) { return grid.Rows() != 0; }))
+        c_.cedi("CaricaVideataInizio/attesa");
 }
 
 void Caricatore::mostraNumeroCasse() {

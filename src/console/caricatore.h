@@ -25,7 +25,7 @@ public:
 
 private:
     void mostraNumeroCasse();
-    void pulisciServiti();
+    void accettaTocchi();
     void riempiGriglie();
     void mostraPezzi();
     void ContaPezzi();

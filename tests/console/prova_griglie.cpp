@@ -101,6 +101,20 @@ TEST_F(Griglie, ARebuildInsideARebuildReturnsAtOnce) {
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", ""));
 }
 
+TEST_F(Griglie, ATouchDuringTheWaitMeansTheOrderThatWasOnShow) {
+    for (int n : {1, 2, 3, 4})
+        b.archivio.ordine("A", n, {{1, 1}});
+    b.caricata();
+    b.clic(0, "A  1"); // leaves a hole: the rebuild moves all others
+    b.pompa.alPunto("CaricaVideataInizio/attesa", [this] {
+        b.console().stato().grid[0].corrente(0, 1);
+        b.console().clicGriglia(0);
+    });
+    b.console().clic("cmdAggiorna", kSenzaIndice);
+    EXPECT_EQ(b.posti(0)[2], "A 2");
+    EXPECT_THAT(b.celle(0), ElementsAre("A  3", "A  4", ""));
+}
+
 TEST_F(Griglie, CategoryOutOfRangeAndNumberTooLargeAreFailures) {
     b.archivio.ordine("A", 40000, {{1, 1}});
     EXPECT_THROW(b.caricata(), Guasto);

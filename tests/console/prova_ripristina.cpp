@@ -77,9 +77,10 @@ TEST_F(Ripristino, GoesStepByStep) {
     b.pompa.alPunto("frmRipristina/attesa", [&] { tocca(1, 0); }); // touched during the wait
     tocca(1, 0);
     EXPECT_EQ(chiusure, 1);
-    EXPECT_EQ(b.diario, (Diario{"ridisegna", "cedi frmRipristina/2", "attendi 160",
-                                "cedi frmRipristina/attesa", "attendi 400", "cedi CaricaVideataInizio/9",
-                                "cedi frmRipristina/9", "android 1", "chiudi"}));
+    EXPECT_EQ(b.diario,
+              (Diario{"ridisegna", "cedi frmRipristina/2", "attendi 160", "cedi frmRipristina/attesa",
+                      "attendi 400", "cedi CaricaVideataInizio/attesa", "cedi CaricaVideataInizio/9",
+                      "cedi frmRipristina/9", "android 1", "chiudi"}));
     EXPECT_EQ(aperte(12), "A|0|-1|-1|0");
     EXPECT_THAT(b.celle(1), Contains("A  12"));
     EXPECT_EQ(b.archivio.leggi("SELECT CATEGORIA, SERVITO FROM DettaglioLumigrafo WHERE Numero = 12"),
