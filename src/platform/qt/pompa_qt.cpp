@@ -65,8 +65,10 @@ bool PompaQt::eventFilter(QObject* oggetto, QEvent* evento) {
     if (tipo == QEvent::ShortcutOverride && std::exchange(passaScorciatoia_, false))
         return false;
     // While older keys wait, a newer one waits behind them.
-    if (evento == inConsegna_ || (!trattiene() && trattenuti_.empty()))
+    if (evento == inConsegna_)
         return false;
+    if (!trattiene() && trattenuti_.empty())
+        return consegnaSubito(oggetto, evento);
     if (tipo == QEvent::ShortcutOverride) {
         evento->accept(); // no shortcut yet: the key itself follows, and is asked again at its delivery
         return true;
@@ -75,6 +77,17 @@ bool PompaQt::eventFilter(QObject* oggetto, QEvent* evento) {
     trattenuti_.push_back({oggetto, std::move(copia)});
     evento->accept();
     chiediConsegna();
+    return true;
+}
+
+/// A key on its way from window to control is under delivery until it is there: what it sets off may let
+/// events through and find keys to hold, and its own next step must not be taken for one of them.
+bool PompaQt::consegnaSubito(QObject* oggetto, QEvent* evento) {
+    if (!oggetto->isWindowType() || evento->type() == QEvent::ShortcutOverride)
+        return false;
+    const QEvent* esterno = std::exchange(inConsegna_, evento);
+    QCoreApplication::sendEvent(oggetto, evento);
+    inConsegna_ = esterno;
     return true;
 }
 

@@ -38,6 +38,7 @@ private:
 
     [[nodiscard]] bool trattiene() const;
     void chiediConsegna();
+    bool consegnaSubito(QObject* oggetto, QEvent* evento);
     void consegna(const Tasto& tasto);
 
     std::vector<Livello> livelli_;
