@@ -1,17 +1,21 @@
-#include "data/cls_recordset.h"
-#include "platform/finti/finti.h"
-#include "platform/finti/messaggi_finti.h"
+#include "links/collegamento_android.h"
+#include "platform/finti/cliente_tcp_finto.h"
+#include "platform/finti/scelta_cartella_finta.h"
 #include "platform/guasto.h"
 #include "settings/chiavi_imposta.h"
 #include "settings/controllo_imposta.h"
+#include "settings/impo_lumigrafo_android.h"
 #include "settings/imposta.h"
-#include "tests/sostegno/archivio_prova.h"
-#include "tests/sostegno/cartella_temporanea.h"
+#include "settings/ini/cp1252.h"
+#include "settings/percorso_archivio.h"
+#include "tests/console/banco.h"
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <set>
 #include <sstream>
 #include <sys/resource.h>
 #include <unistd.h>
@@ -20,79 +24,46 @@ namespace lumigrafo::prova {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 
-class RichiamiFinti : public RichiamiConsole {
+class AzioniFinte : public AzioniImposta, Annotatore {
 public:
-    RichiamiFinti(Diario& diario, ContestoDati dati) : diario_(diario), dati_(std::move(dati)) {}
-    void CaricaVideataInizio(bool) override {}
-    void AggiornaDBLumigrafoCucina(const std::string&, const std::string&, std::int16_t,
-                                   std::int16_t) override {}
-    void SincronizzaLumAndroid(std::int16_t) override {}
-    void Parla(const std::string&) override {}
-    void ScaricaLumigrafo() override { diario_.emplace_back("ScaricaLumigrafo"); }
-    [[nodiscard]] std::string lblReparto(int) const override { return {}; }
-    [[nodiscard]] std::int16_t Categoria(int) const override { return 0; }
-    [[nodiscard]] Controlli& frmVideata() override { throw Guasto(guasti::kOggettoMancante); }
-    void RidisegnaVideata() override {}
-    [[nodiscard]] ContestoDati contestoDati() override { return dati_; }
-
-private:
-    Diario& diario_;
-    ContestoDati dati_;
-};
-
-class AzioniFinte : public AzioniImposta {
-public:
-    explicit AzioniFinte(Diario& diario) : diario_(diario) {}
+    explicit AzioniFinte(Diario& diario) : Annotatore(diario) {}
     std::function<void(ColoriScelti&)> colore = [](ColoriScelti&) {};
     std::function<void(CarattereScelto&)> carattere = [](CarattereScelto&) {};
     void frmColore(ColoriScelti& c) override { colore(c); }
     void frmFontSize(CarattereScelto& c) override { carattere(c); }
-    void frmImpoLumigrafoAndroid() override { diario_.emplace_back("frmImpoLumigrafoAndroid"); }
-    void frmInserisciNumeri() override { diario_.emplace_back("frmInserisciNumeri"); }
-    void frmSagoma() override { diario_.emplace_back("frmSagoma"); }
-    void ImpostazioniFiscali() override { diario_.emplace_back("ImpostazioniFiscali"); }
-    void UtilitaFiscali() override { diario_.emplace_back("UtilitaFiscali"); }
-    void ApriImpostazioniSchermo() override { diario_.emplace_back("ApriImpostazioniSchermo"); }
-    void TimerVis() override { diario_.emplace_back("TimerVis"); }
-
-private:
-    Diario& diario_;
+    void frmImpoLumigrafoAndroid() override { annota("frmImpoLumigrafoAndroid"); }
+    void frmInserisciNumeri() override { annota("frmInserisciNumeri"); }
+    void frmSagoma() override { annota("frmSagoma"); }
+    void ImpostazioniFiscali() override { annota("ImpostazioniFiscali"); }
+    void UtilitaFiscali() override { annota("UtilitaFiscali"); }
+    void ApriImpostazioniSchermo() override { annota("ApriImpostazioniSchermo"); }
+    void TimerVis() override { annota("TimerVis"); }
 };
 
-class ImpostaTest : public testing::Test {
+/// The dialog over a console that has opened its archive and no board.
+class ImpostaTest : public testing::Test, protected Banco {
 protected:
-    Diario diario;
-    CartellaTemporanea cartella;
-    Ambiente ambiente{cartella.percorso(), "/opt/lumigrafo/lumigrafo", ""};
-    FileIni ini{ambiente.file(kFileImpostazioni)};
-    ArchivioProva archivio{ambiente.file(kFileArchivio)};
-    Workspace ws;
-    std::unique_ptr<Database> db = ws.OpenDatabase(ambiente.file(kFileArchivio).string());
-    OrologioFinto orologio;
-    SistemaFinto sistema;
-    AvvisiFinti avvisi{&diario};
-    MessaggiFinti messaggi{&diario};
-    UscitaFinta uscita{&diario};
-    RichiamiFinti richiami{diario, {*db, cartella.percorso().string(), orologio, avvisi, uscita, sistema}};
     AzioniFinte azioni{diario};
 
-    std::unique_ptr<Imposta> apri() {
-        return std::make_unique<Imposta>(ServiziImposta{ambiente, messaggi, avvisi, uscita, richiami, azioni},
-                                         [this] { diario.emplace_back("chiusa"); });
+    ImpostaTest() {
+        stato.Ws = &DBEngine::Workspaces(0);
+        stato.Db = stato.Ws->OpenDatabase(ambiente.file(kFileArchivio).string());
     }
-    void imposta(std::string_view chiave, const ValoreIni& valore) {
-        ini.ScriviIni(kSezioneImpostazioni, chiave, valore);
+    std::unique_ptr<Imposta> apri() {
+        return std::make_unique<Imposta>(
+            ServiziImposta{ambiente, messaggi, avvisi, uscita, console().richiami(), azioni},
+            [this] { diario.emplace_back("chiusa"); });
     }
     std::string leggiChiave(std::string_view chiave) {
-        return ini.LeggiIni(kSezioneImpostazioni, chiave, "manca");
+        return impostazioni.LeggiIni(kSezioneImpostazioni, chiave, "manca");
     }
     std::string file() {
         std::stringstream testo;
-        testo << std::ifstream(ini.file()).rdbuf();
+        testo << std::ifstream(impostazioni.file()).rdbuf();
         return testo.str();
     }
-    static void clic(Imposta& i, const char* nome, int indice = kSenzaIndice) { i.clic(nome, indice); }
     /// The dialog said what it says after a save that went well, and ended the program.
     void diSolitoFinisce() {
         EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito");
@@ -102,14 +73,14 @@ protected:
     /// Saves, as far as the tests let it.
     void applica(Imposta& i) {
         try {
-            clic(i, "cmdApplica");
+            i.clic("cmdApplica", kSenzaIndice);
         } catch (const FineProcesso&) {
         }
     }
 };
 
 /// What the control's property shows, as the key's text.
-std::string mostrato(Controlli& controlli, const char* nome, int indice, Proprieta proprieta) {
+std::string mostrato(Controlli& controlli, std::string_view nome, int indice, Proprieta proprieta) {
     const Controllo& c = controlli(nome, indice);
     switch (proprieta) {
     case Proprieta::Testo:
@@ -160,7 +131,7 @@ const std::vector<Caso> kCasi{
     {"FontSizeTesto1", "lblFont", 1, Proprieta::FontSize, "48", "8.25"},
     {"FontSizeTesto2", "lblFont", 2, Proprieta::FontSize, "48", "50"},
     {"NumeroMassimoRighe", "txtNumeroMassimoRighe", kNo, Proprieta::Testo, "50", "7"},
-    {"NumeroLampeggi", "txtNumeroLampeggi", kNo, Proprieta::Testo, "20", "100"},
+    {"NumeroLampeggi", "txtNumeroLampeggi", kNo, Proprieta::Testo, "20", "3"},
     {"Vocale", "chkVocale", kNo, Proprieta::Valore, "0", "1"},
     {"VelocitaVocale", "sldVelocita", kNo, Proprieta::Valore, "0", "-10"},
     {"VolumeVocale", "sldVolume", kNo, Proprieta::Valore, "100", "35"},
@@ -173,33 +144,270 @@ const std::vector<Caso> kCasi{
     {"QuanteCasse", "txtCasse", kNo, Proprieta::Testo, "5", "3"},
     {"ColoreNumeriTesto", "lblColoreNumeri", kNo, Proprieta::ForeColor, "0", "16711680"},
     {"ColoreNumeriSfondo", "lblColoreNumeri", kNo, Proprieta::BackColor, "16777215", "1"},
-    {"BottoneAvanti", "chkBottoneAvanti", kNo, Proprieta::Valore, "0", "0"},
+    {"BottoneAvanti", "chkBottoneAvanti", kNo, Proprieta::Valore, "0", "1"},
     {"ScontrinoFiscale", "chkFiscale", kNo, Proprieta::Valore, "0", "1"},
 };
 
+using Valori = std::map<std::string, std::string>;
+
+Valori altriValori() {
+    Valori valori;
+    for (const Caso& c : kCasi)
+        valori[c.chiave] = c.altro;
+    return valori;
+}
+
+/// The file as the dialog writes it.
+std::string salvato(const Valori& valori) {
+    std::string testo = "[Impostazioni]\r\n";
+    for (const Caso& c : kCasi)
+        testo += std::string(c.chiave) + "=" + valori.at(c.chiave) + "\r\n";
+    return aCp1252(testo);
+}
+
 TEST_F(ImpostaTest, OgniChiaveHaIlSuoControlloIlSuoPredefinitoEIlSuoPosto) {
     auto i = apri();
-    for (const Caso& c : kCasi)
+    Valori valori;
+    for (const Caso& c : kCasi) {
         EXPECT_EQ(mostrato(i->controlli(), c.controllo, c.indice, c.proprieta), c.predefinito) << c.chiave;
+        valori[c.chiave] = c.predefinito;
+    }
     applica(*i);
-    std::string atteso = "[Impostazioni]\r\n";
-    for (const Caso& c : kCasi)
-        atteso += std::string(c.chiave) + "=" + c.predefinito + "\r\n";
-    EXPECT_EQ(file(), atteso) << "every key, in order";
-    EXPECT_THAT(diario, ElementsAre("messaggio Salvataggio eseguito", "ScaricaLumigrafo",
+    EXPECT_EQ(file(), salvato(valori)) << "every key, in order";
+    EXPECT_THAT(diario, ElementsAre("messaggio Salvataggio eseguito", "cedi ScaricaLumigrafo",
                                     "messaggio Riavviare l'applicazione con l'icona sul desktop", "chiusa",
                                     "fine 0"));
     EXPECT_EQ(messaggi.mostrati.front().second, 1);
     EXPECT_EQ(messaggi.mostrati.back().second, 2);
 
-    for (const Caso& c : kCasi)
-        imposta(c.chiave, c.altro);
-    const std::string prima = file();
+    valori = altriValori();
+    std::ofstream(impostazioni.file(), std::ios::binary) << salvato(valori);
     i = apri();
     for (const Caso& c : kCasi)
         EXPECT_EQ(mostrato(i->controlli(), c.controllo, c.indice, c.proprieta), c.altro) << c.chiave;
+    for (int q = 1; q < 4; ++q) { // the button of the next number wants one category
+        i->controlli()("cboCodCategoria", q).ListIndex(0);
+        valori["Categoria" + std::to_string(q)] = "0";
+    }
+    std::filesystem::remove(impostazioni.file());
     applica(*i);
-    EXPECT_EQ(file(), prima) << "what was read is written back";
+    EXPECT_EQ(file(), salvato(valori)) << "what is shown is written";
+}
+
+/// Settings that make up one station, and its board.
+struct Postazione {
+    TipoVideata videata;
+    char sigla;
+    const char *tipo, *nove, *bottone;
+    std::array<const char*, 4> categorie;
+};
+
+constexpr std::array<Postazione, 8> kPostazioni{{
+    {TipoVideata::frmLumigrafo, 'V', "0", "1", "0", {"2", "1", "3", "1"}},
+    {TipoVideata::frmLumigrafooRIZZ, 'O', "1", "0", "0", {"1", "3", "2", "0"}},
+    {TipoVideata::frmLumigrafoOrizz9numeri, 'N', "1", "1", "0", {"3", "2", "1", "2"}},
+    {TipoVideata::frmLumigrafo1Reparto, 'U', "1", "0", "1", {"2", "0", "0", "0"}},
+    {TipoVideata::frmLumigrafo1Reparto9numeri, 'W', "1", "1", "1", {"3", "0", "0", "0"}},
+    {TipoVideata::frmLumigrafo1RepartoBig, 'B', "3", "0", "0", {"1", "0", "0", "2"}},
+    {TipoVideata::frmLumigrafoPerson, 'P', "2", "0", "1", {"1", "0", "0", "0"}},
+    {TipoVideata::frmAvantiProssimo, 'A', "4", "0", "0", {"1", "0", "0", "0"}},
+}};
+
+Valori di(const Postazione& p) {
+    Valori valori{{"TipoLumigrafo", p.tipo}, {"Lumigrafo9Numeri", p.nove}};
+    for (int q = 0; q < 4; ++q)
+        valori["Categoria" + std::to_string(q)] = p.categorie.at(static_cast<std::size_t>(q));
+    return valori;
+}
+
+/// Who reads a key while the station works, and what it takes the key for.
+struct Lettore {
+    std::string chiave;
+    std::string_view chi; ///< boards, by letter; 'C' the console, whatever its board
+    std::function<std::string(Banco&)> vede;
+    const char* senza;              ///< what it takes where there is no key
+    const char* conUnaSpunta = "1"; ///< what it takes for a 1 that the dialog wrote
+};
+
+/// As a property of the board's control.
+auto sul(const char* controllo, int indice, Proprieta proprieta) {
+    return [=](Banco& b) { return mostrato(b.board().controlli(), controllo, indice, proprieta); };
+}
+/// As the console's running state.
+template <typename T>
+auto nello(T StatoConsole::*campo) {
+    return [campo](Banco& b) {
+        if constexpr (std::is_same_v<T, std::string>)
+            return b.stato.*campo;
+        else
+            return std::to_string(b.stato.*campo);
+    };
+}
+auto sfumatura(int q, Colore (Controllo::*quale)() const) {
+    return [=](Banco& b) { return std::to_string((b.board().controlli()("picPannello", q).*quale)().v); };
+}
+std::string inVista(Controlli& controlli, const char* nome, int quanti) {
+    int n = 0;
+    for (int i = 0; i < quanti; ++i)
+        n += controlli(nome, quanti == 1 ? kNo : i).Visible();
+    return std::to_string(n);
+}
+std::string lampeggi(Banco& b) {
+    const int prima = b.timers.accesi();
+    b.board().Blinka(0);
+    b.board().Lampeggia("A", "1");
+    int scatti = 0;
+    for (; b.timers.accesi() > prima && scatti < 200; ++scatti)
+        b.timers.avanza(std::chrono::milliseconds(300));
+    return std::to_string(scatti / 2 - 1); // one cycle more than is set
+}
+
+std::vector<Lettore> lettori() {
+    using enum Proprieta;
+    using S = StatoConsole;
+    std::vector<Lettore> tutti{
+        {"TipoLumigrafo", "C", nello(&S::TipoLumigrafo), "0"},
+        {"Lumigrafo9Numeri", "C", nello(&S::Lumigrafo9Numeri), "0"},
+        {"NumeroMassimoRighe", "C", nello(&S::NumeroMassimoRighe), "50"},
+        {"Vocale", "C", nello(&S::Vocale), "0"},
+        {"VelocitaVocale", "C", nello(&S::VelocitaVocale), "0"},
+        {"VolumeVocale", "C", nello(&S::VolumeVocale), "100"},
+        {"DicituraVocale", "C", nello(&S::DicituraVocale), "Numero"},
+        {"ScontrinoFiscale", "C", nello(&S::ScontrinoFiscale), "0"},
+        {"BottoneAvanti", "C", [](Banco& b) { return inVista(b.console().controlli(), "cmdAvanti", 1); },
+         "0"},
+        {"Posiziona", "C", // the console takes the truth value -1 alone
+         [](Banco& b) {
+             b.diario.clear();
+             b.console().attiva();
+             return std::to_string(std::count(b.diario.begin(), b.diario.end(), "frmSagoma"));
+         },
+         "0", "0"},
+        {"TitoloLumigrafo", "VONUWB", sul("lblTitoloLumigrafo", kNo, Testo), "STIAMO SERVENDO I NUMERI"},
+        {"FontNumeri", "VUWB", sul("lblNumero3", 0, FontName), "Arial Narrow"},
+        {"FontNumeri", "ON", sul("lblNumero3", 0, FontName), "Arial Blank"},
+        {"FontNumeri", "A", sul("lblNumero", 0, FontName), "Arial Narrow"},
+        {"FontSizeNumeri", "VUW", sul("lblNumero3", 0, FontSize), "100"},
+        {"FontSizeNumeri", "B", sul("lblNumero3", 0, FontSize), "160"},
+        {"FontSizeNumeri", "ON", sul("lblNumero3", 0, FontSize), "72"},
+        {"FontSizeNumeri", "A", sul("lblNumero", 0, FontSize), "100"},
+        {"ColoreTesto0", "UWP", sul("lblNumero3", 0, ForeColor), "16777215"},
+        {"ColoreTesto0", "B", sul("lblNumero3", 0, ForeColor), "0"},
+        {"ColoreTesto0", "B", sul("lblChiamati", kNo, ForeColor), "16777215"},
+        {"ColoreTesto0", "A", sul("lblCassa", 0, ForeColor), "16777215"},
+        {"ColoreSfondo0", "UWB", sfumatura(0, &Controllo::Sfumatura1), "0"},
+        {"ColoreSfondo0", "A", sfumatura(0, &Controllo::Sfumatura2), "65280"},
+        {"ColoreNumeriTesto", "A", sul("lblNumero", 0, ForeColor), "0"},
+        {"ColoreNumeriSfondo", "A", sul("picNumero", 0, BackColor), "16777215"},
+        {"QuanteCasse", "A", [](Banco& b) { return inVista(b.board().controlli(), "picPannello", 5); }, "5"},
+        {"NumeroLampeggi", "VONUWBPA", lampeggi, "20"},
+        {"PubblicitaMirtolanda", "ONU",
+         [](Banco& b) { return inVista(b.board().controlli(), "FraMirtolanda", 1); }, "0"},
+        {"ResizePubblicita", "ONUB",
+         [](Banco& b) {
+             return std::to_string(b.board().controlli()("picPubblicita").Adatta() == Adattamento::Stirata);
+         },
+         "0"},
+    };
+    for (int q = 0; q < 4; ++q)
+        tutti.push_back(
+            {"Categoria" + std::to_string(q), "C",
+             [q](Banco& b) { return std::to_string(b.stato.Categoria.at(static_cast<std::size_t>(q))); },
+             "0"});
+    for (int q = 0; q < 3; ++q) {
+        const std::string cifra = std::to_string(q);
+        tutti.push_back({"ColoreTesto" + cifra, "VON", sul("lblNumero3", q, ForeColor), "16777215"});
+        tutti.push_back({"ColoreSfondo" + cifra, "V", sul("picPannello", q, BackColor), "0"});
+        tutti.push_back({"ColoreSfondo" + cifra, "ON", sfumatura(q, &Controllo::Sfumatura1), "0"});
+        tutti.push_back({"FontTesto" + cifra, "VON", sul("lblTitolo", q, FontName), "Arial Narrow"});
+        tutti.push_back({"FontSizeTesto" + cifra, "VON", sul("lblTitolo", q, FontSize), "48"});
+    }
+    return tutti;
+}
+
+TEST_F(ImpostaTest, QuelCheSalvaLoLeggonoConsoleELumigrafi) {
+    std::set<std::string> lette;
+    std::ofstream(ambiente.file("pubblicita.jpg")) << "x"; // the big board stretches nothing without a picture
+    const auto leggono = [&](const Postazione& p, const Valori& valori) {
+        Banco b(cartella.percorso());
+        b.tipoVero = true;
+        b.caricata();
+        EXPECT_EQ(b.tipoChiesto, p.videata);
+        for (const Lettore& l : lettori()) {
+            if (l.chi != "C" && l.chi.find(p.sigla) == std::string_view::npos)
+                continue;
+            const auto valore = valori.find(l.chiave);
+            const std::string atteso = valore == valori.end()  ? l.senza
+                                       : valore->second == "1" ? l.conUnaSpunta
+                                                               : valore->second;
+            EXPECT_EQ(l.vede(b), atteso) << l.chiave << " of board " << p.sigla;
+            lette.insert(l.chiave);
+        }
+    };
+    for (const Postazione& p : kPostazioni) {
+        Valori valori = di(p);
+        std::filesystem::remove(impostazioni.file());
+        for (const auto& [chiave, valore] : valori)
+            imposta(chiave.c_str(), valore);
+        leggono(p, valori);
+
+        valori.merge(altriValori());
+        valori["BottoneAvanti"] = p.bottone;
+        std::ofstream(impostazioni.file(), std::ios::binary) << salvato(valori);
+        const auto i = apri();
+        std::filesystem::remove(impostazioni.file());
+        applica(*i);
+        ASSERT_EQ(file(), salvato(valori));
+        leggono(p, valori);
+    }
+    for (const Caso& c : kCasi)
+        EXPECT_TRUE(lette.contains(c.chiave)) << "nobody reads " << c.chiave;
+}
+
+class NotificheFinte : public Notifiche {
+    void mostra(const std::string& testo) override { ADD_FAILURE() << testo; }
+};
+
+TEST_F(ImpostaTest, ArchivioELumigrafiAndroidLeggonoLeLoroFinestre) {
+    const CartellaTemporanea altrove;
+    std::filesystem::copy(ambiente.file(kFileArchivio), altrove.percorso() / kFileArchivio);
+    SceltaCartellaFinta nessuna;
+    PercorsoArchivio percorso({ambiente, messaggi, processi, nessuna}, [] {});
+    percorso.controlli()("txtPathDB").Caption(altrove.percorso().string());
+    percorso.clic("cmdApplica", kNo);
+    ImpoLumigrafoAndroid tablet(ambiente, nessuna, [] {});
+    for (int i = 0; i < 3; ++i) {
+        tablet.controlli()("txtIP", i).Caption("10.0.0." + std::to_string(i));
+        tablet.controlli()("sldFont", i).Value(20 * i);
+    }
+    tablet.controlli()("txtPathPubblicita").Caption("\\\\Server\\Foto");
+    tablet.controlli()("chkSoloAndroid").Value(1);
+    tablet.clic("cmdApplica", kNo);
+    for (const auto& [chiave, valore] : altriValori())
+        imposta(chiave.c_str(), valore);
+    imposta("BottoneAvanti", 0);
+    applica(*apri());
+
+    Banco b(cartella.percorso());
+    b.caricata();
+    EXPECT_EQ(b.stato.PathDB, altrove.percorso().string());
+    EXPECT_TRUE(b.stato.SoloAndroid);
+    ClienteTcpFinto rete{b.diario};
+    NotificheFinte notifiche;
+    for (int i = 0; i < 3; ++i)
+        rete.host["10.0.0." + std::to_string(i)] = {};
+    CollegamentoAndroid(b.impostazioni, b.dati, b.orologio, rete, notifiche).SincronizzaLumAndroid(-1);
+    for (int i = 0; i < 3; ++i) {
+        const std::string& spedito = rete.host["10.0.0." + std::to_string(i)].ricevuto;
+        // The colours travel one place further down than the boards wear them.
+        for (const char* parte :
+             {"\"ServerDir\":\"\\\\\\\\server\\\\foto\"", "\"TitoloLumigrafo\":\"SERVIAMO IL\"",
+              "\"BackColorCategoria1\":\"8388608\"", "\"ForeColorCategoria1\":\"65280\"",
+              "\"BackColorCategoria2\":\"16777215\"", "\"ForeColorCategoria2\":\"0\"",
+              "\"BackColorCategoria3\":\"0\"", "\"ForeColorCategoria3\":\"16777215\""})
+            EXPECT_THAT(spedito, HasSubstr(parte));
+        EXPECT_THAT(spedito, HasSubstr("\"FontNumeri\":" + std::to_string(20 * i)));
+    }
 }
 
 TEST_F(ImpostaTest, SeiProveInOrdine) {
@@ -233,12 +441,12 @@ TEST_F(ImpostaTest, SeiProveInOrdine) {
         c("chkBottoneAvanti").Value(caso.bottone);
         c("txtCasse").Caption(caso.casse);
         avvisi.mostrati.clear();
-        std::filesystem::remove(ini.file());
+        std::filesystem::remove(impostazioni.file());
         applica(*i);
         const bool salvato = *caso.messaggio == '\0';
         SCOPED_TRACE(testing::Message()
                      << caso.tipo << categorie[1] << categorie[2] << categorie[3] << caso.casse);
-        EXPECT_EQ(std::filesystem::exists(ini.file()), salvato);
+        EXPECT_EQ(std::filesystem::exists(impostazioni.file()), salvato);
         ASSERT_EQ(avvisi.mostrati.size(), salvato ? 0U : 1U);
         if (!salvato) {
             EXPECT_EQ(avvisi.mostrati[0].testo, caso.messaggio);
@@ -323,24 +531,24 @@ TEST_F(ImpostaTest, CampioniEScelte) {
         EXPECT_EQ(colori.ColoreTestoScelto, 16777215);
         colori = {255, 65280};
     };
-    clic(*i, "cmdColore", 1);
+    i->clic("cmdColore", 1);
     EXPECT_EQ(c("lblColore", 1).BackColor(), Colore(255));
     EXPECT_EQ(c("lblColore", 1).ForeColor(), Colore(65280));
     EXPECT_EQ(c("lblColore", 0).BackColor(), kNero);
     azioni.colore = [](ColoriScelti& colori) { colori = {-1, 7}; };
-    clic(*i, "cmdColoreNumeri");
+    i->clic("cmdColoreNumeri", kNo);
     EXPECT_EQ(c("lblColoreNumeri").ForeColor(), kNero) << "no colour below 0 is taken over";
     azioni.carattere = [](CarattereScelto& scelto) {
         EXPECT_EQ(scelto.NomeFontScelto + scelto.DimensioneFontScelta, "Arial Narrow48");
         scelto = {"Verdana", "60"};
     };
-    clic(*i, "cmdFont", 2);
+    i->clic("cmdFont", 2);
     EXPECT_EQ(c("lblFont", 2).FontName(), "Verdana");
     EXPECT_EQ(c("lblFont", 2).FontSize(), 60);
     imposta("FontSizeNumeri", "23,5");
     i = apri();
     azioni.carattere = [](CarattereScelto& scelto) { EXPECT_EQ(aDoppio(scelto.DimensioneFontScelta), 23.5); };
-    clic(*i, "cmdFontNumeri");
+    i->clic("cmdFontNumeri", kNo);
     EXPECT_EQ(i->controlli()("lblFontNumeri").FontSize(), 23.5);
 }
 
@@ -348,7 +556,7 @@ TEST_F(ImpostaTest, BottoniSenzaChiave) {
     auto i = apri();
     for (const char* nome : {"cmdAndroid", "cmdNumeri", "cmdPosiziona", "cmdImpoSchermo", "cmdFiscale",
                              "cmdTestFiscale", "cmdTestNumeriRandom", "cmdResetta", "cmdAnnulla"})
-        clic(*i, nome);
+        i->clic(nome, kNo);
     EXPECT_THAT(diario, ElementsAre("frmImpoLumigrafoAndroid", "frmInserisciNumeri", "frmSagoma",
                                     "ApriImpostazioniSchermo", "ImpostazioniFiscali", "UtilitaFiscali",
                                     "TimerVis", "chiusa", "messaggio Nessuna modifica salvata", "chiusa"));
@@ -395,7 +603,7 @@ TEST_F(ImpostaTest, UnaCartellaDiSolaLetturaTace) {
     applica(*i);
     ASSERT_EQ(::seteuid(chi), 0);
     std::filesystem::permissions(cartella.percorso(), perms::owner_all);
-    EXPECT_FALSE(std::filesystem::exists(ini.file()));
+    EXPECT_FALSE(std::filesystem::exists(impostazioni.file()));
     diSolitoFinisce();
 }
 
