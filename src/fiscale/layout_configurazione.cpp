@@ -1,5 +1,6 @@
 #include "fiscale/layout.h"
 #include "forms/verifica.h"
+#include "settings/stile.h"
 
 #include <array>
 
@@ -76,9 +77,9 @@ constexpr std::array<Descrizione, 27> kControlli{{
     {.tipo = Tipo::Bottone, .nome = "cmdMeno", .rett = {11220, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "−", .nomeAccessibile = "Un carattere in meno"},
     {.tipo = Tipo::Etichetta, .nome = "lblCaratteri", .rett = {12420, 4920, 1200, 720}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kInchiostro},
     {.tipo = Tipo::Bottone, .nome = "cmdPiu", .rett = {13620, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "+", .nomeAccessibile = "Un carattere in più"},
-    bottone("cmdProva", kSenzaIndice, {300, 5775, 3600, 750}, "Prova di stampa"),
-    bottone("cmdAnnulla", kSenzaIndice, {7710, 5775, 3480, 750}, "Annulla"),
-    {.tipo = Tipo::Bottone, .nome = "cmdSalva", .rett = {11340, 5775, 3480, 750}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kCarta, .sfondo = rgb(47, 109, 168), .caption = "Salva"},
+    stile::bottone("cmdProva", {300, 5775, 3600, 750}, "Prova di stampa"),
+    stile::bottone("cmdAnnulla", {7710, 5775, 3480, 750}, "Annulla"),
+    stile::conferma("cmdSalva", {11340, 5775, 3480, 750}, "Salva"),
     {.tipo = Tipo::Riquadro, .nome = "picTastiera", .rett = {0, kTastiera, kLarghezza, kAltezza - kTastiera}, .sfondo = rgb(217, 224, 230)},
     {.tipo = Tipo::Tastiera, .nome = "tastiera", .padre = "picTastiera", .rett = {300, 60, 14520, kAltezza - kTastiera - 120}, .carattere = kTasti, .nomeAccessibile = "Tastiera"},
 }};

@@ -1,5 +1,6 @@
 #include "fiscale/layout.h"
 #include "forms/verifica.h"
+#include "settings/stile.h"
 
 #include <array>
 
@@ -21,14 +22,14 @@ constexpr std::array<Descrizione, 13> kControlli{{
     {.tipo = Tipo::Riquadro, .nome = "fraStato", .padre = "", .rett = {300, 1170, 13800, 900}, .sfondo = kCarta},
     {.tipo = Tipo::Riquadro, .nome = "fraSpia", .padre = "fraStato", .rett = {240, 270, 360, 360}, .sfondo = kGrigio},
     {.tipo = Tipo::Etichetta, .nome = "lblStato", .padre = "fraStato", .rett = {840, 60, 10020, 780}, .carattere = kGrassetto, .testo = kInchiostro},
-    {.tipo = Tipo::Bottone, .nome = "cmdAggiorna", .padre = "fraStato", .rett = {11100, 75, 2550, 750}, .carattere = kTesto, .allineamento = Allineamento::Centro, .caption = "Aggiorna"},
+    {.tipo = Tipo::Bottone, .nome = "cmdAggiorna", .padre = "fraStato", .rett = {11100, 75, 2550, 750}, .carattere = kTesto, .allineamento = Allineamento::Centro, .caption = "Aggiorna", .scelta = 'a'},
     {.tipo = Tipo::Etichetta, .nome = "lblUltimi", .padre = "", .rett = {300, 2220, 9000, 450}, .carattere = kGrassetto, .testo = kGrigio, .caption = "Ultimi scontrini"},
     {.tipo = Tipo::Griglia, .nome = "gridScontrini", .padre = "", .rett = {300, 2700, 13800, 4650}, .carattere = kTesto, .testo = kInchiostro, .sfondo = kCarta},
     {.tipo = Tipo::Etichetta, .nome = "lblVuoto", .padre = "", .rett = {600, 4500, 13200, 900}, .carattere = kTesto, .allineamento = Allineamento::Centro, .testo = kGrigio, .caption = "Nessuno scontrino ancora", .visibile = false},
     {.tipo = Tipo::Etichetta, .nome = "lblDettaglio", .padre = "", .rett = {300, 7440, 13800, 810}, .carattere = kTesto, .testo = kInchiostro},
     {.tipo = Tipo::Linea, .nome = "linea", .padre = "", .rett = {300, 8340, 13800, 15}, .testo = rgb(217, 224, 230)},
-    {.tipo = Tipo::Bottone, .nome = "cmdRistampa", .padre = "", .rett = {300, 8520, 3600, 900}, .carattere = kGrassetto, .allineamento = Allineamento::Centro, .caption = "Ristampa"},
-    {.tipo = Tipo::Bottone, .nome = "cmdChiudi", .padre = "", .rett = {10500, 8520, 3600, 900}, .carattere = kGrassetto, .allineamento = Allineamento::Centro, .caption = "Chiudi"},
+    stile::bottone("cmdRistampa", {300, 8520, 3600, 900}, "Ristampa"),
+    stile::bottone("cmdChiudi", {10500, 8520, 3600, 900}, "Chiudi"),
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));

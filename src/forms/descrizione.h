@@ -69,8 +69,8 @@ struct Descrizione {
     Twip margine{};                     ///< left free at each side of a label's text
     bool tagliato = false;    ///< a button's text keeps its size and is cut off where it has no room
     int lunghezzaMassima = 0; ///< characters that can be typed into a text box; 0: no limit
-    Corsa corsa{};            ///< of a slider
-    char scelta = 0; ///< small letter of the caption that presses a button or a check box with Alt; 0: none
+    Corsa corsa{};            ///< of a slider; of a label that shows fonts, from above 0: their sizes
+    char scelta = 0; ///< small letter of the caption, underlined; presses a button or a box with Alt; 0: none
 };
 
 /// One window.

@@ -53,9 +53,29 @@ namespace lumigrafo {
     return true;
 }
 
+/// No two controls that Alt and a letter press share the letter, and each letter is one of its caption.
+[[nodiscard]] constexpr bool scelteUniche(std::span<const Descrizione> righe) {
+    constexpr auto nellaScritta = [](const Descrizione& d) {
+        return d.caption.empty() || std::any_of(d.caption.begin(), d.caption.end(), [&](char c) {
+                   return c == d.scelta || (c >= 'A' && c <= 'Z' && c - 'A' + 'a' == d.scelta);
+               });
+    };
+    for (std::size_t i = 0; i < righe.size(); ++i) {
+        if (righe[i].scelta == 0)
+            continue;
+        if (!nellaScritta(righe[i]))
+            return false;
+        for (std::size_t k = 0; k < i; ++k)
+            if (righe[k].scelta == righe[i].scelta && righe[k].tipo != Tipo::Etichetta &&
+                righe[i].tipo != Tipo::Etichetta)
+                return false;
+    }
+    return true;
+}
+
 /// All of it: a table from which a window can be built.
 [[nodiscard]] constexpr bool layoutValido(std::span<const Descrizione> righe) {
-    return nomiUnici(righe) && padriPrima(righe);
+    return nomiUnici(righe) && padriPrima(righe) && scelteUniche(righe);
 }
 
 /// Joins parts of a table, in their order.

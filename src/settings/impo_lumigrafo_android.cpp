@@ -42,8 +42,8 @@ constexpr std::array<Descrizione, 9> kResto{{
     {.tipo = Tipo::Gruppo, .nome = "fraSolo", .rett = {225, 6675, 13350, 1125}},
     {.tipo = Tipo::Spunta, .nome = "chkSoloAndroid", .padre = "fraSolo", .rett = {225, 150, 4800, 825}, .carattere = stile::kCasella, .testo = stile::kTesto, .caption = "Solo lumigrafo Android", .scelta = 's'},
     {.tipo = Tipo::Etichetta, .nome = "lblNotaSolo", .padre = "fraSolo", .rett = {5250, 150, 7875, 825}, .carattere = stile::kEtichetta, .testo = stile::kNota, .caption = "Non verrà visualizzato il lumigrafo collegato a questa postazione"},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 8175, 3675, 1125}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
-    {.tipo = Tipo::Bottone, .nome = "cmdApplica", .rett = {9900, 8175, 3675, 1125}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Conferma", .scelta = 'c'},
+    stile::bottone("cmdAnnulla", {225, 8175, 3675, 1125}, "Annulla"),
+    stile::conferma("cmdApplica", {9900, 8175, 3675, 1125}, "Conferma"),
 }};
 // clang-format on
 

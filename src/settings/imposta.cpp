@@ -55,7 +55,7 @@ void Imposta::PreparaComboCategoria() {
     rs.Chiudi();
 }
 
-void Imposta::cambio(std::string_view nome, int) {
+void Imposta::cambio(std::string_view nome, int indice) {
     if (nome == "cboTipoLumigrafo")
         cboTipoLumigrafo();
     else if (nome == "chkFiscale")
@@ -63,6 +63,9 @@ void Imposta::cambio(std::string_view nome, int) {
     else if (nome == "sldVelocita" || nome == "sldVolume")
         controlli_(nome == "sldVolume" ? "lblVolume" : "lblVelocita")
             .Caption(std::to_string(controlli_(nome).Value()));
+    else if (nome == "lblFont" || nome == "lblFontNumeri")
+        controlli_(nome == "lblFont" ? "lblGrandezza" : "lblGrandezzaNumeri", indice)
+            .Caption(aTesto(static_cast<float>(controlli_(nome, indice).FontSize()), separatoreDecimale()));
 }
 
 void Imposta::cboTipoLumigrafo() {
@@ -119,6 +122,7 @@ void Imposta::cmdFont(Controllo& campione) {
     s_.azioni.frmFontSize(scelto);
     campione.FontSize(aSingolo(scelto.DimensioneFontScelta));
     campione.FontName(scelto.NomeFontScelto);
+    cambio(campione.disegno().nome, campione.disegno().indice);
 }
 
 void Imposta::cmdTestNumeriRandom() {

@@ -32,8 +32,8 @@ constexpr std::array<Descrizione, 9> kControlli{{
     {.tipo = Tipo::Riquadro, .nome = "picAvanzamento", .rett = {225, 2325, kBarra, 300}, .sfondo = rgb(217, 224, 230), .visibile = false, .nomeAccessibile = "Avanzamento"},
     {.tipo = Tipo::Riquadro, .nome = "picFatto", .padre = "picAvanzamento", .rett = {0, 0, 0, 300}, .sfondo = stile::kConferma},
     {.tipo = Tipo::Etichetta, .nome = "lblAvanzamento", .rett = {225, 2625, 7950, 375}, .carattere = stile::kEtichetta, .allineamento = Allineamento::Centro, .testo = stile::kTesto, .visibile = false},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 3150, 3600, 975}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
-    {.tipo = Tipo::Bottone, .nome = "cmdOK", .rett = {4575, 3150, 3600, 975}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Conferma", .scelta = 'c'},
+    stile::bottone("cmdAnnulla", {225, 3150, 3600, 975}, "Annulla"),
+    stile::conferma("cmdOK", {4575, 3150, 3600, 975}, "Conferma"),
     {.tipo = Tipo::Numerica, .nome = "ctlTastiera21", .rett = {8550, 300, 4350, 3825}, .carattere = stile::kIntestazione, .nomeAccessibile = "Tastiera numerica"},
 }};
 // clang-format on
@@ -95,6 +95,8 @@ void InserisciNumeri::inserisci(int primo) {
 }
 
 void InserisciNumeri::avanza(int primo, int fatto) {
+    controlli_("cmdOK").Enabled(false);
+    controlli_("cmdAnnulla").Enabled(false);
     Controllo& lblAvanzamento = controlli_("lblAvanzamento");
     lblAvanzamento.Caption("Inserito il numero " + std::to_string(fatto) + " di " + std::to_string(kUltimo));
     lblAvanzamento.Visible(true);

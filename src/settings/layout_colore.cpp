@@ -104,8 +104,7 @@ constexpr std::array<Descrizione, 3> kTesta{{
      .testo = stile::kTitolo, .caption = "Colore di sfondo"},
 }};
 constexpr std::array<Descrizione, 1> kPiede{{
-    {.tipo = Tipo::Bottone, .nome = "cmdOk", .rett = {9075, 7500, 3300, 1125}, .carattere = stile::kBottone,
-     .testo = kBianco, .sfondo = stile::kConferma, .caption = "OK", .scelta = 'o'},
+    stile::conferma("cmdOk", {9075, 7500, 3300, 1125}, "OK"),
 }};
 // clang-format on
 

@@ -17,18 +17,6 @@ constexpr Carattere kTitolo{"Arial Black", 18};
 constexpr Carattere kTesto{"Arial", 16};
 constexpr Carattere kTasti{"Arial", 17};
 
-constexpr Descrizione bottone(std::string_view nome, Rettangolo rett, std::string_view caption,
-                              Colore testo = stile::kTesto, std::optional<Colore> sfondo = {}) {
-    return {.tipo = Tipo::Bottone,
-            .nome = nome,
-            .rett = rett,
-            .carattere = stile::kBottone,
-            .allineamento = Allineamento::Centro,
-            .testo = testo,
-            .sfondo = sfondo,
-            .caption = caption};
-}
-
 constexpr Descrizione messaggioPronto(int indice, Twip top, std::string_view caption = {}) {
     return {.tipo = Tipo::Etichetta,
             .nome = "lblMessaggio",
@@ -49,12 +37,12 @@ constexpr std::array<Descrizione, 13> kControlli{{
     messaggioPronto(0, 750),
     messaggioPronto(1, 1800, "C'è da spostare al più presto una  FIAT BIANCHINA targata EG 121 BT"),
     messaggioPronto(2, 2850),
-    bottone("cmdVisualizza", {300, 3930, 3900, 900}, "Visualizza sul lumigrafo", kBianco, stile::kConferma),
-    bottone("cmdLeggi", {4350, 3930, 1950, 900}, "LEGGI"),
-    bottone("cmdTastiera", {6450, 3930, 3300, 900}, "Tastiera WINDOWS"),
+    stile::conferma("cmdVisualizza", {300, 3930, 3900, 900}, "Visualizza sul lumigrafo"),
+    stile::bottone("cmdLeggi", {4350, 3930, 1950, 900}, "LEGGI"),
+    stile::bottone("cmdTastiera", {6450, 3930, 3300, 900}, "Tastiera WINDOWS"),
     {.tipo = Tipo::Riquadro, .nome = "Shape", .rett = {9900, 3930, 2325, 900}, .sfondo = kInvio},
     {.tipo = Tipo::Etichetta, .nome = "lblEnter", .rett = {9900, 3930, 2325, 900}, .carattere = stile::kBottone, .allineamento = Allineamento::Centro, .testo = stile::kTesto, .caption = "*  ENTER *", .cliccabile = true},
-    bottone("cmdUscita", {12375, 3930, 2325, 900}, "Uscita"),
+    stile::bottone("cmdUscita", {12375, 3930, 2325, 900}, "Uscita"),
     {.tipo = Tipo::Riquadro, .nome = "picTastiera", .rett = {0, 4980, kLarghezza, kAltezza - 4980}, .sfondo = rgb(226, 232, 238)},
     {.tipo = Tipo::Tastiera, .nome = "tastiera", .rett = {300, 5100, 14400, 4950}, .carattere = kTasti, .nomeAccessibile = "Tastiera"},
 }};

@@ -50,12 +50,12 @@ constexpr Descrizione lista(std::string_view nome, int indice, Rettangolo rett, 
 }
 
 constexpr Descrizione casella(std::string_view nome, std::string_view padre, Rettangolo rett,
-                              std::string_view cosa, int massima = 0) {
+                              std::string_view cosa, int massima = 0, Carattere carattere = stile::kCasella) {
     return {.tipo = Tipo::Casella,
             .nome = nome,
             .padre = padre,
             .rett = rett,
-            .carattere = stile::kCasella,
+            .carattere = carattere,
             .testo = stile::kTesto,
             .nomeAccessibile = cosa,
             .lunghezzaMassima = massima};
@@ -107,6 +107,22 @@ constexpr Descrizione campione(std::string_view nome, int indice, std::string_vi
     return d;
 }
 
+/// One that holds a font and its size, of those that the picker gives.
+constexpr Descrizione campioneCarattere(std::string_view nome, int indice, Rettangolo rett,
+                                        std::string_view testo) {
+    Descrizione d = campione(nome, indice, "fraColori", rett, testo);
+    d.corsa = {.minimo = 24, .massimo = 250};
+    return d;
+}
+
+/// The size of the font beside it.
+constexpr Descrizione grandezza(std::string_view nome, int indice, double y) {
+    Descrizione d = etichetta(nome, indice, "fraColori", px(532, y, 46, 48), "");
+    d.allineamento = Allineamento::Centro;
+    d.testo = stile::kTitolo;
+    return d;
+}
+
 constexpr Descrizione nascosto(Descrizione d) {
     d.visibile = false;
     return d;
@@ -121,7 +137,7 @@ constexpr std::array kTesta{
 constexpr std::array kLumigrafo{
     gruppo("fraLumigrafo", px(12, 62, 392, 326)),
     lista("cboTipoLumigrafo", kSenzaIndice, px(12, 10, 252, 48), "Tipo lumigrafo"),
-    spunta("chk9Numeri", "fraLumigrafo", px(274, 10, 110, 48), "9 numeri", '\0'),
+    spunta("chk9Numeri", "fraLumigrafo", px(274, 10, 110, 48), "9 numeri", 'u'),
     etichetta("lblCategoria", 0, "fraLumigrafo", px(12, 62, 168, 48), "Categoria quadrante 1"),
     lista("cboCodCategoria", 0, px(184, 62, 196, 48), "Categoria quadrante 1"),
     etichetta("lblCategoria", 3, "fraLumigrafo", px(12, 114, 168, 48), "Ulter. categ x quadrante 1"),
@@ -131,27 +147,29 @@ constexpr std::array kLumigrafo{
     etichetta("lblCategoria", 2, "fraLumigrafo", px(12, 218, 168, 48), "Categoria quadrante 3"),
     lista("cboCodCategoria", 2, px(184, 218, 196, 48), "Categoria quadrante 3"),
     etichetta("lblTitolo", kSenzaIndice, "fraLumigrafo", px(12, 270, 112, 48), "Titolo lumigrafo"),
-    casella("txtTitolo", "fraLumigrafo", px(126, 270, 254, 48), "Titolo lumigrafo"),
+    casella("txtTitolo", "fraLumigrafo", px(126, 270, 254, 48), "Titolo lumigrafo", 0, stile::kEtichetta),
 };
 
 /// Colours and font of one quadrant.
-constexpr std::array<Descrizione, 5> quadrante(int i, std::string_view titolo, std::string_view colore,
+constexpr std::array<Descrizione, 6> quadrante(int i, std::string_view titolo, std::string_view colore,
                                                std::string_view font) {
     const double y = 62.0 + i * 52;
     return {
         etichetta("lblQuadrante", i, "fraColori", px(12, y, 98, 48), titolo),
         bottone("cmdColore", "fraColori", px(114, y, 96, 48), "Colore", '\0', i, colore),
-        campione("lblColore", i, "fraColori", px(216, y, 168, 48), "Testo esempio"),
-        bottone("cmdFont", "fraColori", px(390, y, 84, 48), "Font", '\0', i, font),
-        campione("lblFont", i, "fraColori", px(480, y, 92, 48), "XXX"),
+        campione("lblColore", i, "fraColori", px(216, y, 136, 48), "Testo esempio"),
+        bottone("cmdFont", "fraColori", px(358, y, 70, 48), "Font", '\0', i, font),
+        campioneCarattere("lblFont", i, px(434, y, 96, 48), "XXX"),
+        grandezza("lblGrandezza", i, y),
     };
 }
 
 constexpr auto kColori = unisci(
     std::array{
         gruppo("fraColori", px(412, 62, 584, 222)),
-        bottone("cmdFontNumeri", "fraColori", px(12, 10, 198, 48), "Font Numeri", 'n'),
-        campione("lblFontNumeri", kSenzaIndice, "fraColori", px(216, 10, 356, 48), "123"),
+        bottone("cmdFontNumeri", "fraColori", px(12, 10, 198, 48), "Font Numeri", 'm'),
+        campioneCarattere("lblFontNumeri", kSenzaIndice, px(216, 10, 314, 48), "123"),
+        grandezza("lblGrandezzaNumeri", kSenzaIndice, 10),
     },
     quadrante(0, "Quadrante 1", "Colore quadrante 1", "Font quadrante 1"),
     quadrante(1, "Quadrante 2", "Colore quadrante 2", "Font quadrante 2"),
@@ -163,7 +181,7 @@ constexpr std::array kNumeri{
     casella("txtCasse", "fraAvanti", px(142, 36, 54, 48), "Numero di casse"),
     nascosto(bottone("cmdTestNumeriRandom", "fraAvanti", px(202, 36, 78, 48), "Test numeri random")),
     nascosto(gruppo("fraColoreNumeri", px(708, 292, 288, 96), "Colore numeri")),
-    bottone("cmdColoreNumeri", "fraColoreNumeri", px(12, 36, 140, 48), "Colore numeri"),
+    bottone("cmdColoreNumeri", "fraColoreNumeri", px(12, 36, 140, 48), "Colore numeri", 'c'),
     campione("lblColoreNumeri", kSenzaIndice, "fraColoreNumeri", px(160, 36, 116, 48), "123"),
     gruppo("fraGriglie", px(412, 396, 584, 62)),
     etichetta("lblNumeroMassimoRighe", kSenzaIndice, "fraGriglie", px(12, 8, 262, 48), "Numero massimo di righe nelle griglie di gestione"),
@@ -188,7 +206,7 @@ constexpr std::array kVoce{
 constexpr std::array kOpzioni{
     gruppo("fraOpzioni", px(412, 466, 584, 172), "Opzioni"),
     spunta("chkFiscale", "fraOpzioni", px(12, 26, 252, 48), "Emetti scontrino fiscale", 'e'),
-    bottone("cmdFiscale", "fraOpzioni", px(280, 22, 142, 48), "Impo fiscali"),
+    bottone("cmdFiscale", "fraOpzioni", px(280, 22, 142, 48), "Impo fiscali", 'l'),
     bottone("cmdTestFiscale", "fraOpzioni", px(430, 22, 142, 48), "Test fiscale"),
     spunta("chkBottoneAvanti", "fraOpzioni", px(12, 74, 252, 48), "Bottone per richiamo prossimo numero", 'b'),
     spunta("chkPosiziona", "fraOpzioni", px(280, 74, 296, 48), "Posiziona automaticamente lumigrafo su 2' schermo all'avvio", 'z'),
@@ -196,21 +214,14 @@ constexpr std::array kOpzioni{
     spunta("chkResizePubblicita", "fraOpzioni", px(280, 122, 296, 48), "Adatta automaticamente immagini pubblicità", 'i'),
 };
 
-constexpr Descrizione primario(Descrizione d) {
-    d.testo = kBianco;
-    d.sfondo = stile::kConferma;
-    d.carattere = stile::kBottone;
-    return d;
-}
-
 constexpr std::array kBottoni{
     bottone("cmdAndroid", "", px(412, 8, 288, 48), "Impostazioni lumigrafo Android", 'd'),
     bottone("cmdImpoSchermo", "", px(708, 8, 288, 48), "Apri impostazioni schermo", 's'),
     bottone("cmdNumeri", "", px(12, 652, 192, 64), "Inserisci numeri per test", 't'),
     bottone("cmdPosiziona", "", px(212, 652, 192, 64), "Posiziona nello schermo esteso", 'o'),
     bottone("cmdResetta", "", px(412, 652, 206, 64), "Resetta posizione videata lumigrafo", 'r'),
-    bottone("cmdAnnulla", "", px(636, 652, 150, 64), "Annulla", 'l'),
-    primario(bottone("cmdApplica", "", px(794, 652, 202, 64), "Applica ed esci", 'a')),
+    stile::bottone("cmdAnnulla", px(636, 652, 150, 64), "Annulla"),
+    stile::conferma("cmdApplica", px(794, 652, 202, 64), "Applica ed esci"),
 };
 // clang-format on
 

@@ -41,13 +41,7 @@ constexpr std::array<Descrizione, 7> kControlli{{
     griglia(0),
     griglia(1),
     griglia(2),
-    {.tipo = Tipo::Bottone,
-     .nome = "cmdUscita",
-     .rett = {4800, 6075, 4200, 1050},
-     .carattere = stile::kBottone,
-     .allineamento = Allineamento::Centro,
-     .testo = stile::kTesto,
-     .caption = "USCITA"},
+    stile::bottone("cmdUscita", {4800, 6075, 4200, 1050}, "USCITA"),
 }};
 static_assert(layoutValido(kControlli));
 

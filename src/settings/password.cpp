@@ -45,10 +45,10 @@ constexpr std::array<Descrizione, 17> kControlli{{
     tastoNumero(7, "7", 0, 0), tastoNumero(8, "8", 1, 0), tastoNumero(9, "9", 2, 0),
     tastoNumero(4, "4", 0, 1), tastoNumero(5, "5", 1, 1), tastoNumero(6, "6", 2, 1),
     tastoNumero(1, "1", 0, 2), tastoNumero(2, "2", 1, 2), tastoNumero(3, "3", 2, 2),
-    {.tipo = Tipo::Bottone, .nome = "cmdreset", .rett = posto(0, 3), .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Reset", .scelta = 'r'},
+    stile::bottone("cmdreset", posto(0, 3), "Reset"),
     tastoNumero(0, "0", 1, 3),
-    {.tipo = Tipo::Bottone, .nome = "cmdOK", .rett = posto(2, 3), .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "OK", .scelta = 'o'},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {300, 7350, 4800, 1050}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
+    stile::conferma("cmdOK", posto(2, 3), "OK"),
+    stile::bottone("cmdAnnulla", {300, 7350, 4800, 1050}, "Annulla"),
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));

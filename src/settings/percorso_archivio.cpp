@@ -19,8 +19,8 @@ constexpr std::array<Descrizione, 7> kControlli{{
     {.tipo = Tipo::Casella, .nome = "txtPathDB", .rett = {225, 975, 12000, 900}, .carattere = stile::kCasella, .testo = stile::kTesto, .nomeAccessibile = "Percorso di archivio.mdb"},
     {.tipo = Tipo::Bottone, .nome = "cmdScegliPathDB", .rett = {12375, 975, 900, 900}, .figura = "cartella", .nomeAccessibile = "Scegli la cartella"},
     {.tipo = Tipo::Etichetta, .nome = "Label1", .rett = {225, 2025, 13050, 750}, .carattere = stile::kEtichetta, .testo = stile::kNota, .caption = "Attenzione, indicare soltanto il percorso del file MDB senza il nome (esempio \\\\ilserver\\condivisione)"},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 2925, 3675, 975}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'n'},
-    {.tipo = Tipo::Bottone, .nome = "cmdApplica", .rett = {9600, 2925, 3675, 975}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Applica ed esci", .scelta = 'a'},
+    stile::bottone("cmdAnnulla", {225, 2925, 3675, 975}, "Annulla"),
+    stile::conferma("cmdApplica", {9600, 2925, 3675, 975}, "Applica ed esci"),
     {.tipo = Tipo::Tastiera, .nome = "tastiera", .rett = {225, 4050, 13050, 4650}, .carattere = stile::kCasella, .nomeAccessibile = "Tastiera"},
 }};
 // clang-format on

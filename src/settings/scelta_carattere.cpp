@@ -25,7 +25,7 @@ constexpr std::array<Descrizione, 7> kControlli{{
     {.tipo = Tipo::Etichetta, .nome = "lblDimensione", .padre = "fraDimensione", .rett = {225, 150, 2700, 1200}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Dimensione carattere"},
     {.tipo = Tipo::Cursore, .nome = "sldFontSize", .padre = "fraDimensione", .rett = {3000, 375, 8400, 750}, .nomeAccessibile = "Dimensione carattere", .corsa = kCorsa},
     {.tipo = Tipo::Etichetta, .nome = "lblValore", .padre = "fraDimensione", .rett = {11550, 150, 1350, 1200}, .carattere = stile::kIntestazione, .allineamento = Allineamento::Centro, .testo = stile::kTitolo},
-    {.tipo = Tipo::Bottone, .nome = "cmdOk", .rett = {10050, 7725, 3300, 1050}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "OK", .scelta = 'o'},
+    stile::conferma("cmdOk", {10050, 7725, 3300, 1050}, "OK"),
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));

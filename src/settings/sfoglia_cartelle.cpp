@@ -15,15 +15,15 @@ namespace {
 // clang-format off
 constexpr std::array<Descrizione, 10> kControlli{{
     {.tipo = Tipo::Etichetta, .nome = "lblTitolo", .rett = {225, 150, 13050, 600}, .carattere = stile::kIntestazione, .testo = stile::kTitolo},
-    {.tipo = Tipo::Bottone, .nome = "cmdSu", .rett = {225, 825, 3675, 825}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Cartella superiore", .scelta = 's'},
+    stile::bottone("cmdSu", {225, 825, 3675, 825}, "Cartella superiore"),
     {.tipo = Tipo::Etichetta, .nome = "lblPercorso", .rett = {4050, 825, 9225, 825}, .carattere = stile::kCasella, .testo = stile::kTesto, .sfondo = stile::kCarta},
     {.tipo = Tipo::Etichetta, .nome = "lblLuoghi", .rett = {225, 1725, 3675, 450}, .carattere = stile::kGruppo, .testo = stile::kTitolo, .caption = "Posizioni"},
     {.tipo = Tipo::Etichetta, .nome = "lblCartelle", .rett = {4050, 1725, 9225, 450}, .carattere = stile::kGruppo, .testo = stile::kTitolo, .caption = "Cartelle"},
     {.tipo = Tipo::Lista, .nome = "lstLuoghi", .rett = {225, 2175, 3675, 5925}, .carattere = stile::kCasella, .nomeAccessibile = "Posizioni"},
     {.tipo = Tipo::Lista, .nome = "lstCartelle", .rett = {4050, 2175, 9225, 5925}, .carattere = stile::kCasella, .nomeAccessibile = "Cartelle"},
     {.tipo = Tipo::Etichetta, .nome = "lblVuota", .rett = {4275, 2400, 8775, 750}, .carattere = stile::kEtichetta, .testo = stile::kNota},
-    {.tipo = Tipo::Bottone, .nome = "cmdAnnulla", .rett = {225, 8325, 3675, 975}, .carattere = stile::kBottone, .testo = stile::kTesto, .caption = "Annulla", .scelta = 'a'},
-    {.tipo = Tipo::Bottone, .nome = "cmdOk", .rett = {7725, 8325, 5550, 975}, .carattere = stile::kBottone, .testo = kBianco, .sfondo = stile::kConferma, .caption = "Scegli questa cartella", .scelta = 'q'},
+    stile::bottone("cmdAnnulla", {225, 8325, 3675, 975}, "Annulla"),
+    stile::conferma("cmdOk", {7725, 8325, 5550, 975}, "Scegli questa cartella"),
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));

@@ -2,11 +2,11 @@
 #include "platform/guasto.h"
 #include "platform/qt/applicazione.h"
 #include "platform/qt/avvisi_qt.h"
+#include "platform/qt/finestra_avviso.h"
 #include "platform/qt/uscita_qt.h"
 
 #include <QAbstractButton>
 #include <QDialog>
-#include <QMessageBox>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -24,10 +24,10 @@ struct Statico {
 int altriScatti = 0;
 
 void chiudiAvviso() {
-    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        std::printf("%s|%s|%d|%d\n", qPrintable(box->windowTitle()), qPrintable(box->text()), box->icon(),
-                    altriScatti);
-        box->buttons().first()->click();
+    if (auto* box = dynamic_cast<lumigrafo::FinestraAvviso*>(QApplication::activeModalWidget())) {
+        std::printf("%s|%s|%d|%d\n", qPrintable(box->windowTitle()), qPrintable(box->testo()),
+                    static_cast<int>(box->icona()), altriScatti);
+        box->accept();
         return;
     }
     QTimer::singleShot(5, qApp, chiudiAvviso);

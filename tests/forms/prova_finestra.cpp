@@ -302,6 +302,23 @@ TEST(TestoAdattato, FrasiVannoACapoNumeriNo) {
     EXPECT_GE(lungo.pixelIn({1000, 700}), 20);
 }
 
+TEST(Campione, UnaGrandezzaPiuGrandeSiVedePiuGrandeETuttaIntera) {
+    static constexpr std::array<Descrizione, 1> kUno{
+        {{.nome = "lblFont", .rett = {0, 0, 1440, 720}, .caption = "XXX", .corsa = {24, 250}}}};
+    static constexpr Layout kLayout{"frmProva", "", 1440, 720, kBianco, kUno};
+    Controlli c(kLayout);
+    const Finestra f(c);
+    const auto& e = dynamic_cast<const EtichettaWidget&>(*f.widget("lblFont"));
+    int prima = 0;
+    for (const double punti : {24.0, 48.0, 72.0, 160.0, 250.0}) {
+        c("lblFont").FontSize(punti);
+        const int pixel = e.testo().pixelIn(e.area().size());
+        EXPECT_EQ(pixel, e.testo().carattere().pixelSize()) << punti;
+        EXPECT_GT(pixel, prima) << punti;
+        prima = pixel;
+    }
+}
+
 TEST_F(FinestraProva, UnaFiguraCheNonCeEUnGuasto) {
     const auto numero = [&](const char* figura) {
         try {

@@ -1,7 +1,6 @@
 #include "platform/guasto.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
-#include <QMessageBox>
 #include <QProcess>
 
 #include <fstream>
@@ -19,8 +18,8 @@ struct Caso {
 
 class GuastoNonPreso : public testing::TestWithParam<Caso> {};
 
-// The box, then the end: no destructor of the windows below runs, no second box shows, no timer and no network
-// goes on.
+// The box, then the end: no destructor of the windows below runs, no second box shows, no timer and no
+// network goes on.
 void finisce(const QString& modo, const std::string& detto) {
     QProcess figlio;
     figlio.start(QStringLiteral(FIGLIO_GUASTO), {modo});
@@ -41,15 +40,15 @@ TEST(GuastoNonPreso, UnaFotografiaRottaFinisceUguale) {
     std::ofstream(file) << "\xff\xd8\xff\xd9 and nothing more";
     finisce(QString::fromStdString(file), "Lumigrafo|Errore di run-time '481':\n\n" +
                                               Guasto(guasti::kImmagine).descrizione() + ":\n" + file +
-                                              "|3|0\n");
+                                              "|1|0\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Modi, GuastoNonPreso,
-    testing::Values(Caso{"rete", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|1\n"},
-                    Caso{"timer", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|1\n"},
-                    Caso{"eccezione", "Lumigrafo|Errore di run-time '51':\n\ncattiva|3|1\n"},
-                    Caso{"avvio", "Lumigrafo|Errore di run-time '6':\n\nOverflow|3|0\n"}),
+    testing::Values(Caso{"rete", "Lumigrafo|Errore di run-time '6':\n\nOverflow|1|1\n"},
+                    Caso{"timer", "Lumigrafo|Errore di run-time '6':\n\nOverflow|1|1\n"},
+                    Caso{"eccezione", "Lumigrafo|Errore di run-time '51':\n\ncattiva|1|1\n"},
+                    Caso{"avvio", "Lumigrafo|Errore di run-time '6':\n\nOverflow|1|0\n"}),
     [](const auto& prova) { return std::string(prova.param.modo); });
 
 } // namespace

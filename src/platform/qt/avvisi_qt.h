@@ -4,8 +4,8 @@
 
 namespace lumigrafo {
 
-/// Message boxes above the active window. The box's objectName is `avviso`, its buttons' `OK`, `Sì` and `No`. Escape and
-/// the window's close give OK, or No to a question. Enter closes a notice and answers no question: a scanner sends it.
+/// Message boxes above the active window (see FinestraAvviso). Escape and the window's close give OK, or No to
+/// a question. Enter closes a notice and answers no question: a scanner sends it.
 class AvvisiQt final : public Avvisi {
 public:
     Risposta chiedi(const Avviso& avviso) override;
