@@ -6,6 +6,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -96,10 +97,15 @@ FinestraAvviso::FinestraAvviso(const Avviso& avviso, QWidget* sopra)
                                          : QString::fromStdString(avviso.titolo));
     setWindowModality(Qt::ApplicationModal);
     setWindowFlag(Qt::WindowStaysOnTopHint); // a board may lie over everything
-    const QSize libero = screen()->availableSize();
-    double scala = aspetto::ingrandimento(libero);
+    // Left to itself, a window comes up on the pointer's monitor, which may be the public's.
+    const QScreen* schermo = sopra ? sopra->screen() : QGuiApplication::primaryScreen();
+    const QRect libero = schermo->availableGeometry();
+    double scala = aspetto::ingrandimento(libero.size());
     for (disponi(scala); scala > kScalaMinima && height() > libero.height() - kMargine; disponi(scala))
         scala *= 0.9;
+    QRect posto(QPoint(), size());
+    posto.moveCenter(libero.center());
+    move(posto.topLeft());
 }
 
 void FinestraAvviso::disponi(double scala) {

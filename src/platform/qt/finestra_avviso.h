@@ -6,8 +6,8 @@
 
 namespace lumigrafo {
 
-/// The message box: an icon, a text that is always whole, and buttons made for fingers, in proportion to the
-/// monitor. Its buttons' objectNames are `OK`, or `Sì` and `No`.
+/// The message box: an icon, a text that is always whole, and buttons made for fingers, in the middle of the
+/// monitor and in proportion to it. Its buttons' objectNames are `OK`, or `Sì` and `No`.
 class FinestraAvviso final : public QDialog {
 public:
     /// `sopra`: the window that it stands over; null for none.
