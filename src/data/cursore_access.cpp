@@ -5,6 +5,7 @@
 #include "data/jet/dato.h"
 #include "data/jet/testo.h"
 #include "data/jet/valore_lungo.h"
+#include "data/ordine_access.h"
 #include "data/tabella_virtuale.h"
 #include "platform/conversioni.h"
 
@@ -85,6 +86,32 @@ RigheTrovate perIndice(TabellaAccess& t, std::size_t quale, const std::vector<sq
     return righe;
 }
 
+RigheTrovate perNumero(TabellaAccess& t, int numero, const std::vector<sqlite3_value*>& valori) {
+    if (std::any_of(valori.begin(), valori.end(),
+                    [](sqlite3_value* v) { return sqlite3_value_type(v) == SQLITE_NULL; }))
+        return {}; // nothing equals a null
+    if (numero == Percorso::kTutte)
+        return t.tabella.righe();
+    if (numero >= Percorso::kIndici)
+        return perIndice(t, static_cast<std::size_t>((numero - Percorso::kIndici) / kColonneIndice), valori);
+    RigheTrovate una;
+    const std::int64_t chiave = sqlite3_value_int64(valori.front());
+    if (chiave < 0 || chiave > UINT32_MAX)
+        return una;
+    const jet::Posizione p = TabelleVirtuali::posizione(chiave);
+    const auto possedute = [&] { // an address may point anywhere
+        if (p.pagina >= t.tabella.pagine().quante())
+            return false;
+        const jet::PaginaLetta pagina = t.tabella.pagine().leggi(p.pagina);
+        return pagina->tipo() == jet::TipoPagina::Dati &&
+               pagina->u32(jet::PaginaDati::kProprietario) == t.tabella.definizione().pagina;
+    };
+    if (possedute())
+        if (auto r = t.tabella.riga(p))
+            una.push_back({p, std::move(*r)});
+    return una;
+}
+
 void testo(sqlite3_context* contesto, const std::string& t) {
     sqlite3_result_text(contesto, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
 }
@@ -110,6 +137,11 @@ void Percorso::scegli(TabellaAccess& t, sqlite3_index_info& info) {
     info.idxNum = kTutte;
     info.estimatedCost = tutte;
     info.estimatedRows = static_cast<sqlite3_int64>(tutte);
+    if (const std::string ordine = ordine_access::scegli(d, info); !ordine.empty()) {
+        info.idxStr = sqlite3_mprintf("%s", ordine.c_str());
+        info.needToFreeIdxStr = 1;
+        info.orderByConsumed = info.idxStr ? 1 : 0;
+    }
     if (const int v = uguaglianza(info, -1); v >= 0) {
         info.idxNum = kChiave;
         info.aConstraintUsage[v].argvIndex = 1;
@@ -132,34 +164,15 @@ void Percorso::scegli(TabellaAccess& t, sqlite3_index_info& info) {
     info.estimatedRows = static_cast<sqlite3_int64>(migliore.righe);
 }
 
-RigheTrovate Percorso::cerca(TabellaAccess& t, int numero, const std::vector<sqlite3_value*>& valori) {
-    return t.tabella.pagine().coerente([&]() -> RigheTrovate {
-        if (std::any_of(valori.begin(), valori.end(),
-                        [](sqlite3_value* v) { return sqlite3_value_type(v) == SQLITE_NULL; }))
-            return {}; // nothing equals a null
-        if (numero == kTutte)
-            return t.tabella.righe();
-        if (numero >= kIndici)
-            return perIndice(t, static_cast<std::size_t>((numero - kIndici) / kColonneIndice), valori);
-        RigheTrovate una;
-        const std::int64_t chiave = sqlite3_value_int64(valori.front());
-        if (chiave < 0 || chiave > UINT32_MAX)
-            return una;
-        const jet::Posizione p = TabelleVirtuali::posizione(chiave);
-        const auto possedute = [&] { // an address may point anywhere
-            if (p.pagina >= t.tabella.pagine().quante())
-                return false;
-            const jet::PaginaLetta pagina = t.tabella.pagine().leggi(p.pagina);
-            return pagina->tipo() == jet::TipoPagina::Dati &&
-                   pagina->u32(jet::PaginaDati::kProprietario) == t.tabella.definizione().pagina;
-        };
-        if (possedute())
-            if (auto r = t.tabella.riga(p))
-                una.push_back({p, std::move(*r)});
-        return una;
+RigheTrovate Percorso::cerca(TabellaAccess& t, int numero, const char* ordine,
+                             const std::vector<sqlite3_value*>& valori) {
+    return t.tabella.pagine().coerente([&] {
+        RigheTrovate righe = perNumero(t, numero, valori);
+        if (ordine)
+            ordine_access::ordina(t.tabella.definizione(), ordine, righe);
+        return righe;
     });
 }
-
 void CursoreAccess::vaiA(std::size_t nuovo) {
     posto = nuovo;
     if (!finito())

@@ -26,8 +26,10 @@ struct Percorso {
 
     /// Fills in SQLite's form for the way that looks through the fewest rows.
     static void scegli(TabellaAccess& t, sqlite3_index_info& info);
-    /// Carries it out with the values of the condition, in one state of the archive.
-    static RigheTrovate cerca(TabellaAccess& t, int numero, const std::vector<sqlite3_value*>& valori);
+    /// Carries it out with the values of the condition, in one state of the archive. `ordine`: as `scegli`
+    /// found it, null for none.
+    static RigheTrovate cerca(TabellaAccess& t, int numero, const char* ordine,
+                              const std::vector<sqlite3_value*>& valori);
 };
 
 struct CursoreAccess : sqlite3_vtab_cursor {

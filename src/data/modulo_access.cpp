@@ -137,11 +137,13 @@ int chiudi(sqlite3_vtab_cursor* c) noexcept {
     return SQLITE_OK;
 }
 
-int cerca(sqlite3_vtab_cursor* c, int numero, const char*, int quanti, sqlite3_value** valori) noexcept {
+int cerca(sqlite3_vtab_cursor* c, int numero, const char* ordine, int quanti,
+          sqlite3_value** valori) noexcept {
     return protetto(c->pVtab, [&] {
         CursoreAccess& cursore = di(c);
         TabellaAccess& t = cursore.tabella();
-        cursore.righe = std::make_shared<RigheTrovate>(Percorso::cerca(t, numero, {valori, valori + quanti}));
+        cursore.righe =
+            std::make_shared<RigheTrovate>(Percorso::cerca(t, numero, ordine, {valori, valori + quanti}));
         t.viste = cursore.righe;
         cursore.definizione = &t.tabella.definizione();
         cursore.vaiA(0);

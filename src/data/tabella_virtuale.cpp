@@ -47,6 +47,19 @@ jet::Pagine::AttesaBreve TabelleVirtuali::attesaDiUnPasso() {
     return {pagine_, sqlite3_get_autocommit(db_) != 0};
 }
 
+void TabelleVirtuali::segna(int punto) {
+    if (!segni_.contains(punto)) // each table of the transaction is told of it
+        segni_.emplace(punto, pagine_.segno());
+}
+
+void TabelleVirtuali::dimentica(int punto) {
+    const auto da = segni_.lower_bound(punto);
+    if (da == segni_.end())
+        return;
+    pagine_.dimentica(da->second);
+    segni_.erase(da, segni_.end());
+}
+
 void TabelleVirtuali::tornaA(int punto) {
     if (const auto segno = segni_.find(punto); segno != segni_.end())
         pagine_.tornaA(segno->second);

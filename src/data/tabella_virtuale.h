@@ -27,8 +27,8 @@ public:
     /// While it lives, a change waits for other stations a fraction of the whole wait only, unless it is part
     /// of a longer transaction: its statement is repeated as a whole then, and until that holds nothing.
     [[nodiscard]] jet::Pagine::AttesaBreve attesaDiUnPasso();
-    void segna(int punto) { segni_.try_emplace(punto, pagine_.segno()); }
-    void dimentica(int punto) { segni_.erase(segni_.lower_bound(punto), segni_.end()); }
+    void segna(int punto);
+    void dimentica(int punto);
     void tornaA(int punto);
     void fineTransazione() { segni_.clear(); }
 

@@ -25,12 +25,19 @@ TEST_F(Istruzioni, LetturaDellaCoda) {
     for (const auto& [sigla, numero] : {std::pair{"B", 2}, {"a", 9}, {"A", 3}, {"", 70}})
         archivio.ordine(sigla, numero, {{1, 2}});
     archivio.ordine(std::nullopt, 80, {{10, 3}});
-    std::string ordine;
-    const auto rs = apri(istruzioni::kLumigrafo);
-    for (; !rs->Eof(); rs->MoveNext())
-        ordine +=
-            rs->Fields()["sigla"].Value().aTestoOVuoto() + rs->Fields()["NUMERO"].Value().aTesto() + " ";
-    EXPECT_EQ(ordine, "80 70 A3 a9 B2 ");
+    for (const auto& [sorgente, atteso] :
+         {std::pair<std::string, std::string>{istruzioni::kLumigrafo, "80 70 A3 a9 B2 "},
+          {"Select * from Lumigrafo Order by Sigla DESC, Numero DESC", "B2 a9 A3 70 80 "},
+          {"Select Sigla, Numero from Lumigrafo Order by Categoria10, Numero", "80 B2 A3 a9 70 "}}) {
+        std::string ordine;
+        const auto rs = apri(sorgente);
+        for (; !rs->Eof(); rs->MoveNext())
+            ordine +=
+                rs->Fields()["sigla"].Value().aTestoOVuoto() + rs->Fields()["NUMERO"].Value().aTesto() + " ";
+        EXPECT_EQ(ordine, atteso);
+    }
+    archivio.esegui("UPDATE Categorie SET Descrizione = 'Ba\xC5\x82' WHERE Codice = 1"); // in no code page
+    EXPECT_EQ(archivio.leggi("SELECT Codice FROM Categorie ORDER BY Descrizione"), "2 1 3");
 
     const auto somma = apri(istruzioni::kSommaPezzi);
     EXPECT_EQ(somma->Fields()["SommaDiPezzi1"].Value().aIntero16(), 8);
@@ -40,7 +47,7 @@ TEST_F(Istruzioni, LetturaDellaCoda) {
     EXPECT_EQ(apri(istruzioni::kNumero)->Fields()["Numero"].Value().aIntero32(), 0);
     const auto categorie = apri(istruzioni::kCategorie);
     EXPECT_EQ(categorie->RecordCount(), 3);
-    EXPECT_EQ(categorie->Fields()["Descrizione"].Value().aTesto(), "Cucina");
+    EXPECT_EQ(categorie->Fields()["Codice"].Value().aIntero16(), 1);
 }
 
 TEST_F(Istruzioni, SommaDellaCodaVuotaENulla) {

@@ -137,18 +137,6 @@ std::u16string_view significativo(std::u16string_view testo) {
     return testo.substr(0, testo.find_last_not_of(u' ') + 1);
 }
 
-/// For texts that stand in no index: behind 0xFF, which is no weight, a character's own code.
-std::string chiaveTollerante(std::string_view utf8) {
-    Chiave k;
-    for (const char16_t c : significativo(aUtf16(utf8))) {
-        if (const auto peso = pesoDi(c))
-            k.aggiungi(*peso);
-        else
-            k.inLinea.append({'\xFF', static_cast<char>(c >> 8), static_cast<char>(c & 0xFF)});
-    }
-    return k.intera();
-}
-
 /// A letter or figure with one byte of weight and nothing more: such texts compare without their keys.
 bool semplice(char c) {
     return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -167,11 +155,23 @@ std::string chiaveTesto(std::u16string_view testo) {
     return k.intera();
 }
 
+// A character without a place stands behind 0xFF, which is no weight.
+std::string chiaveDiConfronto(std::string_view utf8) {
+    Chiave k;
+    for (const char16_t c : significativo(aUtf16(utf8))) {
+        if (const auto peso = pesoDi(c))
+            k.aggiungi(*peso);
+        else
+            k.inLinea.append({'\xFF', static_cast<char>(c >> 8), static_cast<char>(c & 0xFF)});
+    }
+    return k.intera();
+}
+
 int confronta(std::string_view a, std::string_view b) {
     const std::size_t n = std::min(a.size(), b.size());
     for (std::size_t i = 0; i < n; ++i) {
         if (!semplice(a[i]) || !semplice(b[i]))
-            return chiaveTollerante(a).compare(chiaveTollerante(b));
+            return chiaveDiConfronto(a).compare(chiaveDiConfronto(b));
         const int differenza =
             kPesi[static_cast<unsigned char>(a[i])].primo - kPesi[static_cast<unsigned char>(b[i])].primo;
         if (differenza != 0)
@@ -181,7 +181,7 @@ int confronta(std::string_view a, std::string_view b) {
         return 0;
     const char seguente = a.size() > n ? a[n] : b[n];
     if (!semplice(seguente))
-        return chiaveTollerante(a).compare(chiaveTollerante(b));
+        return chiaveDiConfronto(a).compare(chiaveDiConfronto(b));
     return a.size() > n ? 1 : -1;
 }
 

@@ -14,8 +14,11 @@ inline constexpr std::uint32_t kOrdineGenerale = 0x0409;
 /// trailing blanks are dropped. Throws Guasto 3421 for a character outside Windows-1252.
 [[nodiscard]] std::string chiaveTesto(std::u16string_view testo);
 
-/// Compares two UTF-8 texts in that order: below 0, 0, above 0. Characters that have no place in it come
-/// last, by their codes.
+/// The same for any UTF-8 text: characters that have no place in that order come last, by their codes. Only
+/// for comparing; no index has such keys.
+[[nodiscard]] std::string chiaveDiConfronto(std::string_view utf8);
+
+/// Compares two UTF-8 texts in that order: below 0, 0, above 0, as their chiaveDiConfronto do.
 [[nodiscard]] int confronta(std::string_view a, std::string_view b);
 
 } // namespace lumigrafo::jet

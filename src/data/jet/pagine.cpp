@@ -56,7 +56,7 @@ std::shared_ptr<Pagina> Pagine::dalFile(std::uint32_t numero) const {
 PaginaLetta Pagine::leggi(std::uint32_t numero) {
     if (!cambiate_.empty())
         if (const auto mia = cambiate_.find(numero); mia != cambiate_.end())
-            return mia->second;
+            return mia->second.pagina;
     if (numero >= nelFile_)
         throw danno(numero, "oltre la fine del file");
     if (numero >= cache_.size())

@@ -13,7 +13,6 @@
 #include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <vector>
 
 namespace lumigrafo::jet {
@@ -87,13 +86,18 @@ public:
         std::chrono::milliseconds prima_;
     };
 
-    /// What the transaction has changed up to a moment.
+    /// A moment of the transaction that it can be taken back to. Marks end in the opposite order of their
+    /// beginning, and all with the transaction.
     struct Segno {
-        std::map<std::uint32_t, PaginaLetta> cambiate;
+        std::uint64_t numero;
+        std::size_t annulli;
         std::uint32_t quante;
     };
-    [[nodiscard]] Segno segno() const { return {cambiate_, quante_}; }
+    [[nodiscard]] Segno segno();
+    /// Marks set after it end.
     void tornaA(const Segno& segno);
+    /// Ends the mark, and those set after it.
+    void dimentica(const Segno& segno) noexcept;
 
     /// Writes the transaction and gives the locks back. Throws Guasto, with nothing changed, where the disk
     /// fails.
@@ -104,17 +108,42 @@ public:
 private:
     struct StatoVecchio {}; ///< another station committed while a change was being planned
 
+    /// A page that the transaction has changed, and the mark under which its present copy was made.
+    struct Cambiata {
+        PaginaLetta pagina;
+        std::uint64_t segno = 0;
+    };
+    /// What a page was like when the latest mark was set; null for one that the transaction had not changed.
+    struct Annullo {
+        std::uint32_t numero;
+        Cambiata prima;
+    };
+    /// Ends a change's mark with the change.
+    class Passo {
+    public:
+        explicit Passo(Pagine& pagine) : pagine_(pagine), segno_(pagine.segno()) {}
+        ~Passo() { pagine_.dimentica(segno_); }
+        Passo(const Passo&) = delete;
+        Passo& operator=(const Passo&) = delete;
+        void annulla() { pagine_.tornaA(segno_); }
+
+    private:
+        Pagine& pagine_;
+        const Segno segno_;
+    };
+
     void leggiParole(Parole& parole) const;
     void scriviParola(unsigned utente, std::uint16_t parola);
     [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
     void svuota();
     [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;
-    void sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept;
+    [[nodiscard]] std::size_t quanteBloccate() const { return stazione_ ? stazione_->quanteBloccate() : 0; }
+    void sbloccaDa(std::size_t quante) noexcept;
+    void dimenticaCambi() noexcept;
     [[nodiscard]] bool cambiataNelFile(std::uint32_t numero);
     void scriviPagine(const std::vector<std::uint32_t>& ordine, bool& rimesse);
     [[nodiscard]] std::vector<std::uint32_t> ordineDiScrittura() const;
     void scrivi(std::uint32_t numero, const Pagina& pagina);
-    [[nodiscard]] std::set<std::uint32_t> bloccate() const;
     [[nodiscard]] unsigned utente() const { return stazione_ ? stazione_->utente() : 0; }
 
     Apertura apertura_;
@@ -125,7 +154,10 @@ private:
     Parole parole_;                      ///< of the state that the cache belongs to
     std::vector<PaginaLetta> cache_;
     std::uint32_t nelFile_ = 0, quante_ = 0;
-    std::map<std::uint32_t, PaginaLetta> cambiate_;
+    std::map<std::uint32_t, Cambiata> cambiate_;
+    std::vector<Annullo> annulli_;       ///< for the marks that are set
+    std::vector<std::uint64_t> segnati_; ///< their numbers
+    std::uint64_t ultimoSegno_ = 0;
 };
 
 template <typename Lettura>
@@ -147,8 +179,8 @@ auto Pagine::coerente(Lettura&& lettura) {
 
 template <typename Cambio>
 auto Pagine::cambia(Cambio&& cambio) {
-    const Segno prima = segno();
-    const std::set<std::uint32_t> nostre = bloccate();
+    Passo passo(*this);
+    const std::size_t nostre = quanteBloccate();
     for (Pazienza pazienza(attesa_);;) {
         bool cominciato = false;
         try {
@@ -159,11 +191,11 @@ auto Pagine::cambia(Cambio&& cambio) {
                 throw StatoVecchio{};
             return esito;
         } catch (const StatoVecchio&) {
-            tornaA(prima); // what was locked stays so: the next try can't be outrun on it
+            passo.annulla(); // what was locked stays so: the next try can't be outrun on it
         } catch (const Guasto& guasto) {
-            tornaA(prima);
+            passo.annulla();
             const bool vecchio = cominciato && !immutata();
-            sbloccaNuove(nostre);
+            sbloccaDa(nostre);
             if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
                 throw;
             pazienza.attendi();

@@ -29,20 +29,15 @@ int rango(const Pagina& pagina) {
 
 } // namespace
 
-std::set<std::uint32_t> Pagine::bloccate() const {
-    return stazione_ ? stazione_->bloccate() : std::set<std::uint32_t>();
-}
-
-void Pagine::sbloccaNuove(const std::set<std::uint32_t>& prima) noexcept {
-    for (const std::uint32_t p : bloccate())
-        if (!prima.contains(p))
-            stazione_->sblocca(p);
+void Pagine::sbloccaDa(std::size_t quante) noexcept {
+    if (stazione_)
+        stazione_->sbloccaDa(quante);
 }
 
 void Pagine::bloccaPagina(std::uint32_t numero) {
     if (solaLettura())
         throw erroreDao(dao::kSolaLettura);
-    if (!stazione_ || stazione_->bloccate().contains(numero))
+    if (!stazione_ || stazione_->tiene(numero))
         return;
     if (!stazione_->blocca(numero)) {
         const std::string altra = stazione_->titolare(numero);
@@ -72,13 +67,15 @@ void Pagine::riserva(std::uint32_t numero) {
 
 Pagina& Pagine::modifica(std::uint32_t numero) {
     bloccaPagina(numero);
-    auto mia = cambiate_.find(numero);
+    const PaginaLetta ora = leggi(numero);
+    auto& [pagina, segnata] = cambiate_[numero];
+    if (!segnati_.empty() && (!pagina || segnata < ultimoSegno_))
+        annulli_.push_back({numero, {pagina, segnata}});
     // A page that a mark still refers to, or a reader, is left to them.
-    if (mia == cambiate_.end() || mia->second.use_count() > 1) {
-        auto copia = std::make_shared<Pagina>(*leggi(numero));
-        mia = cambiate_.insert_or_assign(numero, std::move(copia)).first;
-    }
-    return const_cast<Pagina&>(*mia->second); // made above, and nobody else has it
+    if (!pagina || ora.use_count() > 2)
+        pagina = std::make_shared<Pagina>(*ora);
+    segnata = ultimoSegno_;
+    return const_cast<Pagina&>(*pagina); // made above, and nobody else has it
 }
 
 std::uint32_t Pagine::aggiungi() {
@@ -86,14 +83,45 @@ std::uint32_t Pagine::aggiungi() {
     if (numero >= kMassime)
         throw erroreDao(dao::kDiscoPieno);
     bloccaPagina(numero);
-    cambiate_.emplace(numero, std::make_shared<Pagina>());
+    annulli_.push_back({numero, {}});
+    cambiate_[numero] = {std::make_shared<Pagina>(), ultimoSegno_};
     quante_ = numero + 1;
     return numero;
 }
 
+Pagine::Segno Pagine::segno() {
+    segnati_.push_back(++ultimoSegno_);
+    return {ultimoSegno_, annulli_.size(), quante_};
+}
+
 void Pagine::tornaA(const Segno& segno) {
-    cambiate_ = segno.cambiate;
+    while (annulli_.size() > segno.annulli) {
+        auto& [numero, prima] = annulli_.back();
+        if (prima.pagina)
+            cambiate_[numero] = std::move(prima);
+        else
+            cambiate_.erase(numero);
+        annulli_.pop_back();
+    }
     quante_ = std::max(nelFile_, segno.quante);
+    std::erase_if(segnati_, [&](std::uint64_t s) { return s > segno.numero; });
+}
+
+void Pagine::dimentica(const Segno& segno) noexcept {
+    std::erase_if(segnati_, [&](std::uint64_t s) { return s >= segno.numero; });
+    // The mark below needs only what it has not kept itself: a page as it was before its first change since.
+    const std::uint64_t sotto = segnati_.empty() ? UINT64_MAX : segnati_.back();
+    const auto inutile = [&](const Annullo& a) {
+        return segnati_.empty() || (a.prima.pagina && a.prima.segno >= sotto);
+    };
+    const auto da = annulli_.begin() + static_cast<std::ptrdiff_t>(std::min(segno.annulli, annulli_.size()));
+    annulli_.erase(std::remove_if(da, annulli_.end(), inutile), annulli_.end());
+}
+
+void Pagine::dimenticaCambi() noexcept {
+    cambiate_.clear();
+    annulli_.clear();
+    segnati_.clear();
 }
 
 void Pagine::scrivi(std::uint32_t numero, const Pagina& pagina) {
@@ -112,13 +140,13 @@ void Pagine::assolvi(unsigned utente) {
 
 std::vector<std::uint32_t> Pagine::ordineDiScrittura() const {
     std::vector<std::uint32_t> ordine;
-    for (const auto& [numero, pagina] : cambiate_)
+    for (const auto& [numero, cambiata] : cambiate_)
         ordine.push_back(numero);
     std::stable_sort(ordine.begin(), ordine.end(), [this](std::uint32_t a, std::uint32_t b) {
         const bool nuovaA = a >= nelFile_, nuovaB = b >= nelFile_;
         if (nuovaA != nuovaB)
             return nuovaA; // the file grows before anything refers to its new end
-        return !nuovaA && rango(*cambiate_.at(a)) < rango(*cambiate_.at(b));
+        return !nuovaA && rango(*cambiate_.at(a).pagina) < rango(*cambiate_.at(b).pagina);
     });
     return ordine;
 }
@@ -131,7 +159,7 @@ void Pagine::scriviPagine(const std::vector<std::uint32_t>& ordine, bool& rimess
             vecchie[n] = dalFile(n);
     try {
         for (const std::uint32_t n : ordine)
-            scrivi(n, *cambiate_.at(n));
+            scrivi(n, *cambiate_.at(n).pagina);
         file_.consolida();
     } catch (const Guasto&) {
         rimesse = ignorandoGuasti([&] {
@@ -177,16 +205,16 @@ void Pagine::registra() {
         nelFile_ = quante_;
     }
     cache_.resize(std::max<std::size_t>(cache_.size(), nelFile_));
-    for (const auto& [numero, pagina] : nuove)
+    for (const auto& [numero, cambiata] : nuove)
         if (numero < cache_.size())
-            cache_[numero] = pagina;
+            cache_[numero] = cambiata.pagina;
     abbandona();
 }
 
 void Pagine::abbandona() noexcept {
-    cambiate_.clear();
+    dimenticaCambi();
     quante_ = nelFile_;
-    sbloccaNuove({});
+    sbloccaDa(0);
 }
 
 } // namespace lumigrafo::jet

@@ -68,12 +68,15 @@ bool Stazione::blocca(std::uint32_t pagina) {
     if (file_.blocca(scrittura(pagina), true) != FileCondiviso::Esito::Preso)
         return false;
     bloccate_.insert(pagina);
+    ordine_.push_back(pagina);
     return true;
 }
 
-void Stazione::sblocca(std::uint32_t pagina) {
-    if (bloccate_.erase(pagina) > 0)
-        file_.sblocca(scrittura(pagina));
+void Stazione::sbloccaDa(std::size_t quante) {
+    for (; ordine_.size() > quante; ordine_.pop_back()) {
+        bloccate_.erase(ordine_.back());
+        file_.sblocca(scrittura(ordine_.back()));
+    }
 }
 
 /// The user number is told from where the lock ends. Some file systems (SMB) only say that a range is taken

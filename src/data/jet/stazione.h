@@ -4,8 +4,9 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <set>
 #include <string>
+#include <unordered_set>
+#include <vector>
 
 namespace lumigrafo::jet {
 
@@ -37,8 +38,10 @@ public:
     /// Keeps all others from writing a page until `sblocca`; false where another does so already. Locking
     /// again what is locked is true.
     [[nodiscard]] bool blocca(std::uint32_t pagina);
-    void sblocca(std::uint32_t pagina);
-    [[nodiscard]] const std::set<std::uint32_t>& bloccate() const { return bloccate_; }
+    [[nodiscard]] bool tiene(std::uint32_t pagina) const { return bloccate_.contains(pagina); }
+    /// How many pages are locked; `sbloccaDa` gives back those that were locked beyond so many.
+    [[nodiscard]] std::size_t quanteBloccate() const { return ordine_.size(); }
+    void sbloccaDa(std::size_t quante);
     /// The computer of the station that holds the page; empty where it can't be told any more.
     [[nodiscard]] std::string titolare(std::uint32_t pagina) const;
 
@@ -51,7 +54,8 @@ private:
 
     FileCondiviso file_;
     unsigned utente_ = 0;
-    std::set<std::uint32_t> bloccate_;
+    std::unordered_set<std::uint32_t> bloccate_;
+    std::vector<std::uint32_t> ordine_; ///< the same, as they were taken
 };
 
 } // namespace lumigrafo::jet
