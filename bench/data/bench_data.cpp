@@ -249,8 +249,9 @@ void cercaAccess(benchmark::State& stato) {
 BENCHMARK(leggiNudo)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(leggiCampi<Formato::Sqlite>)
     ->Name("leggiCampi")
-    ->Arg(1000)
+    ->Arg(500)
     ->Arg(5000)
+    ->Arg(50000)
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(leggiCampi<Formato::Access>)
     ->Name("leggiCampiAccess")
@@ -262,10 +263,18 @@ BENCHMARK(leggiMdbExport)->Arg(5000)->Unit(benchmark::kMicrosecond)->UseRealTime
 BENCHMARK(cercaAccess)->Arg(500)->Arg(5000)->Arg(50000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(leggiPerNome)->Arg(1000)->Arg(5000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(depennaNudo)->Arg(1000)->Unit(benchmark::kMicrosecond)->UseRealTime();
-BENCHMARK(depenna<Formato::Sqlite>)->Name("depenna")->Arg(1000)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(depenna<Formato::Sqlite>)
+    ->Name("depenna")
+    ->Arg(500)
+    ->Arg(5000)
+    ->Arg(50000)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime();
 BENCHMARK(depenna<Formato::Access>)
     ->Name("depennaAccess")
-    ->Arg(1000)
+    ->Arg(500)
+    ->Arg(5000)
+    ->Arg(50000)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime();
 

@@ -166,6 +166,7 @@ void Percorso::scegli(TabellaAccess& t, sqlite3_index_info& info) {
 
 RigheTrovate Percorso::cerca(TabellaAccess& t, int numero, const char* ordine,
                              const std::vector<sqlite3_value*>& valori) {
+    t.tabella.apri();
     return t.tabella.pagine().coerente([&] {
         RigheTrovate righe = perNumero(t, numero, valori);
         if (ordine)

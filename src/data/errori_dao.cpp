@@ -28,7 +28,7 @@ constexpr Descrizione kDescrizioni[] = {
     {dao::kInUso, "Impossibile utilizzare '|'; file già in uso."},
     {dao::kRigaLunga, "Il record è troppo grande."},
     {dao::kDanneggiato, "Impossibile aprire il database '|'. Potrebbe non essere un database riconosciuto dall'applicazione oppure il file potrebbe essere danneggiato."},
-    {dao::kBlocchi, "Impossibile bloccare il file '|': la cartella non permette i blocchi fra stazioni."},
+    {dao::kBlocchi, "Impossibile bloccare il file '|': la cartella non permette i blocchi fra stazioni. Se è una condivisione va montata con i blocchi (cifs senza 'nobrl' e 'nolock', nfs senza 'nolock'); altrimenti l'archivio va spostato su un disco o una condivisione che li permette."},
     {dao::kPermesso, "Impossibile aprire il file '|'. È già aperto in modo esclusivo da un altro utente oppure è necessaria un'autorizzazione per visualizzarne i dati."},
     {dao::kParametri, "Parametri insufficienti. Previsto 1."},
     {dao::kQueryDiSelezione, "Impossibile eseguire una query di selezione."},

@@ -2,6 +2,8 @@
 
 #include "platform/guasto.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 struct sqlite3;
@@ -76,6 +78,9 @@ inline constexpr int kConversione = 3421;
 
 /// What was going on when SQLite failed: the same result code has another number for a reader and a writer.
 enum class Operazione { Apertura, Lettura, Criterio, Aggiornamento, Inserimento };
+
+/// The table that SQLite's last result on this connection missed; nothing for other results.
+[[nodiscard]] std::optional<std::string> tabellaMancante(sqlite3* connessione);
 
 /// The failure for SQLite's last result on this connection. `testo`: the statement or criterion, for the
 /// descriptions that quote it.

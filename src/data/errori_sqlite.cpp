@@ -29,10 +29,12 @@ int numeroBlocco(Operazione operazione) {
     return dao::kRiservato;
 }
 
+constexpr std::string_view kSenzaTabella = "no such table: ";
+
 /// SQLite tells a faulty statement by its message alone.
 Guasto erroreDiIstruzione(std::string_view messaggio, Operazione operazione, std::string_view testo) {
     const bool criterio = operazione == Operazione::Criterio;
-    if (messaggio.starts_with("no such table: "))
+    if (messaggio.starts_with(kSenzaTabella))
         return erroreDao(dao::kTabellaMancante, nomeIn(messaggio));
     if (messaggio.starts_with("no such column: "))
         return criterio ? erroreDao(dao::kCampoNelCriterio, nomeIn(messaggio)) : erroreDao(dao::kParametri);
@@ -61,6 +63,13 @@ Guasto erroreDiVincolo(int esteso, std::string_view messaggio) {
 }
 
 } // namespace
+
+std::optional<std::string> tabellaMancante(sqlite3* connessione) {
+    const std::string_view messaggio = sqlite3_errmsg(connessione);
+    if (!messaggio.starts_with(kSenzaTabella))
+        return std::nullopt;
+    return std::string(messaggio.substr(kSenzaTabella.size()));
+}
 
 Guasto erroreSqlite(sqlite3* connessione, Operazione operazione, std::string_view testo) {
     const int codice = sqlite3_errcode(connessione);

@@ -92,10 +92,14 @@ struct Tabella : TabellaAccess {
     Tabella(TabelleVirtuali& tutte_, std::uint32_t definizione)
         : TabellaAccess(tutte_.pagine(), definizione), tutte(tutte_) {}
     TabelleVirtuali& tutte;
+    RegoleAccess regole;
 };
 
 TabelleVirtuali& tutte(sqlite3_vtab* t) {
     return static_cast<Tabella*>(t)->tutte;
+}
+const RegoleAccess& regole(sqlite3_vtab* t) {
+    return static_cast<Tabella*>(t)->regole;
 }
 
 int connetti(sqlite3* db, void* contesto, int, const char* const* argomenti, sqlite3_vtab** tabella,
@@ -103,7 +107,12 @@ int connetti(sqlite3* db, void* contesto, int, const char* const* argomenti, sql
     try {
         std::uint32_t definizione = 0;
         std::from_chars(argomenti[3], argomenti[3] + std::strlen(argomenti[3]), definizione);
-        auto t = std::make_unique<Tabella>(*static_cast<TabelleVirtuali*>(contesto), definizione);
+        auto& tutte = *static_cast<TabelleVirtuali*>(contesto);
+        auto t = tutte.pagine().coerente([&] {
+            auto nuova = std::make_unique<Tabella>(tutte, definizione);
+            nuova->regole = tutte.regoleDi(nuova->tabella.definizione());
+            return nuova;
+        });
         if (const int esito = sqlite3_declare_vtab(db, schema(t->tabella.definizione()).c_str());
             esito != SQLITE_OK)
             return esito;
@@ -182,31 +191,43 @@ std::optional<jet::Vista> vista(const TabellaAccess& t, jet::Posizione p) {
     return r == t.viste->end() ? std::nullopt : std::optional(r->riga.byte);
 }
 
-jet::Tabella::Modifiche modifiche(const jet::Definizione& d, sqlite3_value** valori) {
+jet::Tabella::Modifiche modifiche(const jet::Definizione& d, const RegoleAccess& regole,
+                                  sqlite3_value** valori) {
     jet::Tabella::Modifiche m;
-    for (std::size_t i = 0; i < d.colonne.size(); ++i)
-        if (!sqlite3_value_nochange(valori[i]))
-            m.emplace_back(i, byteDi(d.colonne[i], valori[i]));
+    for (std::size_t i = 0; i < d.colonne.size(); ++i) {
+        if (sqlite3_value_nochange(valori[i]))
+            continue;
+        m.emplace_back(i, byteDi(d.colonne[i], valori[i]));
+        regole.verifica(i, m.back().second);
+    }
     return m;
 }
 
-int scrivi(sqlite3_vtab* vt, int quanti, sqlite3_value** valori, sqlite3_int64* nuova) noexcept {
+/// SQLite gives a null for a column that the statement leaves out: no telling it from a null that is meant.
+jet::Campi nuova(const jet::Definizione& d, const RegoleAccess& regole, sqlite3_value** valori) {
+    jet::Campi campi;
+    for (std::size_t i = 0; i < d.colonne.size(); ++i) {
+        const bool manca = sqlite3_value_type(valori[i]) == SQLITE_NULL;
+        campi.push_back(manca ? regole.predefinito(i) : byteDi(d.colonne[i], valori[i]));
+        regole.verifica(i, campi.back());
+    }
+    return campi;
+}
+
+int scrivi(sqlite3_vtab* vt, int quanti, sqlite3_value** valori, sqlite3_int64* chiaveNuova) noexcept {
     return protetto(vt, [&] {
         const auto breve = tutte(vt).attesaDiUnPasso();
         TabellaAccess& t = di(vt);
         const jet::Definizione& d = t.tabella.definizione();
         if (quanti > 1 && sqlite3_value_type(valori[0]) == SQLITE_NULL) {
-            jet::Campi campi;
-            for (std::size_t i = 0; i < d.colonne.size(); ++i)
-                campi.push_back(byteDi(d.colonne[i], valori[2 + i]));
-            *nuova = TabelleVirtuali::chiave(t.tabella.inserisci(campi));
+            *chiaveNuova = TabelleVirtuali::chiave(t.tabella.inserisci(nuova(d, regole(vt), valori + 2)));
             return;
         }
         const jet::Posizione p = TabelleVirtuali::posizione(sqlite3_value_int64(valori[0]));
         if (quanti == 1)
             t.tabella.elimina(p, vista(t, p));
         else
-            t.tabella.aggiorna(p, modifiche(d, valori + 2), vista(t, p));
+            t.tabella.aggiorna(p, modifiche(d, regole(vt), valori + 2), vista(t, p));
     });
 }
 

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/guasto.h"
+
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 struct sqlite3;
@@ -20,6 +23,11 @@ public:
     [[nodiscard]] virtual sqlite3* connessione() const = 0;
     /// The file can't be written by this process.
     [[nodiscard]] virtual bool solaLettura() const = 0;
+
+    /// Why a table that the archive names can't be used; nothing where there is no such table.
+    [[nodiscard]] virtual std::optional<Guasto> inservibile(const std::string& /*tabella*/) const {
+        return std::nullopt;
+    }
 
     /// Holds one state of the archive for the statements up to `fineLettura`. Returns its version: a number
     /// that changes when another station changes the archive. Throws Guasto 3187 where the archive stays

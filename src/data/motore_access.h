@@ -15,6 +15,9 @@ public:
 
     [[nodiscard]] sqlite3* connessione() const override { return db_; }
     [[nodiscard]] bool solaLettura() const override { return pagine_.solaLettura(); }
+    [[nodiscard]] std::optional<Guasto> inservibile(const std::string& tabella) const override {
+        return tabelle_.inservibile(tabella);
+    }
     std::int64_t iniziaLettura() override { return pagine_.aggiorna(); }
     void fineLettura() noexcept override {}
     void blocca(const std::string& tabella, std::int64_t riga) override;

@@ -20,7 +20,7 @@ std::vector<ColonnaNuova> colonneCoda() {
     for (int c = 1; c <= 10; ++c)
         v.push_back({"Categoria" + std::to_string(c), Booleano});
     for (int c = 1; c <= 10; ++c)
-        v.push_back({"Pezzi" + std::to_string(c), Intero});
+        v.push_back({"Pezzi" + std::to_string(c), Intero, 0, false, "0"});
     v.push_back({"Evidenzia", Booleano});
     return v;
 }

@@ -107,8 +107,11 @@ std::shared_ptr<sqlite3_stmt> Sessione::compila(const std::string& sql, Operazio
     sqlite3_stmt* stmt = nullptr;
     const char* resto = nullptr;
     if (sqlite3_prepare_v3(db, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &stmt,
-                           &resto) != SQLITE_OK)
-        throw erroreSqlite(db, operazione, sql);
+                           &resto) != SQLITE_OK) {
+        const Guasto guasto = erroreSqlite(db, operazione, sql);
+        const auto tabella = tabellaMancante(db);
+        throw(tabella ? motore().inservibile(*tabella) : std::nullopt).value_or(guasto);
+    }
     std::shared_ptr<sqlite3_stmt> pronta(stmt, sqlite3_finalize);
     if (!pronta) // blanks alone
         throw erroreDao(dao::kSintassiQuery, sql);

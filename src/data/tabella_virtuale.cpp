@@ -19,6 +19,12 @@ int confrontaTesti(void*, int lungaA, const void* a, int lungaB, const void* b) 
                           {static_cast<const char*>(b), static_cast<std::size_t>(lungaB)});
 }
 
+Guasto collegata(const jet::VoceCatalogo& voce) {
+    return {dao::kTabellaMancante, "La tabella '" + voce.nome + "' è collegata: i suoi dati stanno in " +
+                                       (voce.altrove.empty() ? "un altro file" : "'" + voce.altrove + "'") +
+                                       ", non nell'archivio, e da qui non si possono usare."};
+}
+
 } // namespace
 
 void TabelleVirtuali::crea(sqlite3* db) {
@@ -27,13 +33,41 @@ void TabelleVirtuali::crea(sqlite3* db) {
     sqlite3_create_module(db, kModulo, moduloAccess(), this);
     voci_ = pagine_.coerente([this] { return leggiCatalogo(pagine_); });
     for (const jet::VoceCatalogo& voce : voci_) {
-        if (voce.sistema || voce.definizione == 0)
+        if (voce.sistema)
             continue;
+        if (voce.definizione == 0) {
+            inservibili_.emplace_back(voce.nome, collegata(voce));
+            continue;
+        }
         const std::string sql = "CREATE VIRTUAL TABLE " + lessico::traVirgolette(voce.nome) + " USING " +
                                 kModulo + '(' + std::to_string(voce.definizione) + ')';
         if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
-            throw erroreSqlite(db, Operazione::Apertura);
+            lasciaFuori(voce, erroreSqlite(db, Operazione::Apertura));
     }
+}
+
+/// A damaged table doesn't keep the others from being used.
+void TabelleVirtuali::lasciaFuori(const jet::VoceCatalogo& voce, const Guasto& guasto) {
+    if (guasto.numero() != dao::kDanneggiato)
+        throw guasto;
+    inservibili_.emplace_back(voce.nome, Guasto(guasto.numero(), "La tabella '" + voce.nome +
+                                                                     "' non si può usare, le altre sì. " +
+                                                                     guasto.descrizione()));
+}
+
+std::optional<Guasto> TabelleVirtuali::inservibile(const std::string& tabella) const {
+    for (const auto& [nome, guasto] : inservibili_)
+        if (jet::stessoNome(nome, tabella))
+            return guasto;
+    return std::nullopt;
+}
+
+RegoleAccess TabelleVirtuali::regoleDi(const jet::Definizione& definizione) {
+    std::vector<jet::Proprieta> proprieta;
+    for (const jet::VoceCatalogo& voce : voci_)
+        if (voce.definizione == definizione.pagina)
+            ignorandoGuasti([&] { proprieta = leggiProprieta(pagine_, voce); });
+    return {definizione, proprieta};
 }
 
 std::uint32_t TabelleVirtuali::definizioneDi(const std::string& tabella) const {

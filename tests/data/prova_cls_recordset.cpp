@@ -1,5 +1,7 @@
 #include "data/cls_recordset.h"
 #include "data/istruzioni.h"
+#include "data/jet/nuova_tabella.h"
+#include "data/jet/pagine.h"
 #include "platform/finti/finti.h"
 #include "tests/data/attesa_guasto.h"
 #include "tests/data/stazione.h"
@@ -82,17 +84,25 @@ TEST_F(ClsRecordset, CodiciDiLetturaERicerca) {
 }
 
 TEST_F(ClsRecordset, CampiEConversioni) {
-    if (prova::archiviAccess())
-        GTEST_SKIP() << "no table is made in such an archive";
-    archivio.esegui("CREATE TABLE Strana (\"12\" INTEGER, Nome TEXT)");
-    rs.Apri("prova", false, "Strana", false, false);
-    EXPECT_EQ(rs.QuantiCampi(), 2);
-    EXPECT_EQ(rs.TipoCampo("NOME"), dao::dbText);
-    EXPECT_EQ(rs.NomeCampo("12"), 12);
-    EXPECT_EQ(guastoDi([&] { (void)rs.NomeCampo("Nome"); }), 13);
-    EXPECT_EQ(guastoDi([&] { (void)rs.TipoCampo("Manca"); }), 3265);
-    rs.Chiudi();
-    EXPECT_EQ(guastoDi([&] { (void)rs.ilRecordset(); }), guasti::kOggettoMancante);
+    if (prova::archiviAccess()) {
+        jet::Pagine pagine(percorso(kFileArchivio), {});
+        creaTabella(pagine, {"Strana", {{"12", jet::Tipo::Lungo}, {"Nome", jet::Tipo::Testo, 50}}, {}});
+        pagine.registra();
+    } else {
+        archivio.esegui("CREATE TABLE Strana (\"12\" INTEGER, Nome TEXT)");
+    }
+    const auto dopo =
+        ws.OpenDatabase(percorso(kFileArchivio)); // a table made later isn't seen by those before
+    ContestoDati suo{*dopo, cartella.percorso().string(), orologio, avvisi, uscita, sistema};
+    clsRecordset strana(suo);
+    strana.Apri("prova", false, "Strana", false, false);
+    EXPECT_EQ(strana.QuantiCampi(), 2);
+    EXPECT_EQ(strana.TipoCampo("NOME"), dao::dbText);
+    EXPECT_EQ(strana.NomeCampo("12"), 12);
+    EXPECT_EQ(guastoDi([&] { (void)strana.NomeCampo("Nome"); }), 13);
+    EXPECT_EQ(guastoDi([&] { (void)strana.TipoCampo("Manca"); }), 3265);
+    strana.Chiudi();
+    EXPECT_EQ(guastoDi([&] { (void)strana.ilRecordset(); }), guasti::kOggettoMancante);
     for (const Valore& vero : {Valore("SI"), Valore(true), Valore("True"), Valore(-1)})
         EXPECT_TRUE(clsRecordset::SiToBool(vero));
     for (const Valore& falso : {Valore(""), Valore("NO"), Valore(false), Valore()})

@@ -216,8 +216,8 @@ TEST_F(Dao, RigaNuova) {
     rs->Update();
     EXPECT_EQ(
         archivio.leggi("SELECT Categoria1, Categoria4, Pezzi4, Evidenzia FROM Lumigrafo WHERE Sigla = 'E'"),
-        prova::archiviAccess() ? "0|-1|NULL|0" : "0|-1|0|0"); // the table's defaults
-    EXPECT_EQ(corrente(), "A1");                              // the current row stays
+        "0|-1|0|0");             // the table's defaults
+    EXPECT_EQ(corrente(), "A1"); // the current row stays
     EXPECT_EQ(rs->RecordCount(), 5);
     rs->MoveLast();
     EXPECT_EQ(corrente(), "E15");
@@ -272,11 +272,13 @@ TEST_F(Dao, SenzaLockEditsDecideUpdate) {
 }
 
 TEST_F(Dao, SommeEVisteSiLeggonoSoltanto) {
-    if (prova::archiviAccess())
-        GTEST_SKIP() << "queries kept in such an archive are not read";
-    archivio.esegui("CREATE VIEW Aperti AS SELECT Sigla, Numero FROM Lumigrafo");
-    for (const char* sorgente :
-         {"Select Sigla, count(*) as N from Lumigrafo Group by Sigla Order by Sigla", "Aperti"}) {
+    std::vector<std::string> sorgenti = {
+        "Select Sigla, count(*) as N from Lumigrafo Group by Sigla Order by Sigla"};
+    if (!prova::archiviAccess()) { // queries kept in such an archive are not read
+        archivio.esegui("CREATE VIEW Aperti AS SELECT Sigla, Numero FROM Lumigrafo");
+        sorgenti.emplace_back("Aperti");
+    }
+    for (const std::string& sorgente : sorgenti) {
         const auto letto = db->OpenRecordset(sorgente);
         letto->FindFirst("Sigla = 'B'");
         EXPECT_FALSE(letto->NoMatch()) << sorgente;
@@ -326,13 +328,14 @@ TEST_F(Dao, Transazioni) {
 }
 
 TEST(ArchivioAltrui, TestiSenzaMaiuscole) {
-    if (prova::archiviAccess())
-        GTEST_SKIP() << "there texts always compare so";
     const prova::CartellaTemporanea cartella;
     const auto file = cartella.percorso() / kFileArchivio;
     prova::ArchivioProva archivio(file);
-    archivio.esegui("DROP TABLE Lumigrafo; CREATE TABLE Lumigrafo (Sigla VARCHAR(1), Numero INT, Pezzi1 INT);"
-                    "INSERT INTO Lumigrafo VALUES ('b', 1, 0), ('C', 1, 0), ('A', 1, 0)");
+    if (!prova::archiviAccess()) // there texts always compare so
+        archivio.esegui("DROP TABLE Lumigrafo;"
+                        "CREATE TABLE Lumigrafo (Sigla VARCHAR(1), Numero INT, Pezzi1 INT)");
+    archivio.esegui("INSERT INTO Lumigrafo (Sigla, Numero, Pezzi1) VALUES ('b', 1, 0), ('C', 1, 0), "
+                    "('A', 1, 0)");
     Workspace ws;
     const auto db = ws.OpenDatabase(file.string());
     const auto rs = db->OpenRecordset("Select * from Lumigrafo Order by Sigla, Numero");

@@ -139,7 +139,7 @@ private:
         for (; v_.u16(posto_) != kNessuna; posto_ += kVoce) {
             if (v_.u32(posto_ + 2) != 0) // a column of an empty system table may have no maps yet
                 d_.mappeLunghe.push_back(
-                    {Posizione::da(v_.u32(posto_ + 2)), Posizione::da(v_.u32(posto_ + 6))});
+                    {v_.u16(posto_), Posizione::da(v_.u32(posto_ + 2)), Posizione::da(v_.u32(posto_ + 6))});
         }
     }
 

@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace lumigrafo::jet {
@@ -77,7 +76,11 @@ struct Definizione {
     std::vector<Indice> indici;
     Posizione possedute, libere; ///< maps of the table's data pages, and of those with room
     /// The same of the pages that hold the long values of a column.
-    std::vector<std::pair<Posizione, Posizione>> mappeLunghe;
+    struct MappeLunghe {
+        std::uint16_t colonna; ///< its number
+        Posizione possedute, libere;
+    };
+    std::vector<MappeLunghe> mappeLunghe;
 
     /// Without regard to case.
     [[nodiscard]] std::optional<std::size_t> cerca(std::string_view nome) const;

@@ -36,7 +36,11 @@ private:
     [[nodiscard]] Vista riga() const;
     [[nodiscard]] std::span<std::uint8_t> rigaDaModificare();
     [[nodiscard]] bool cambia(std::uint32_t numero, bool dentro);
+    [[nodiscard]] bool globale() const;
+    [[nodiscard]] bool inRiga() const;
     void allarga(std::uint32_t numero);
+    void globaleAPagine();
+    [[nodiscard]] std::uint32_t paginaDiLibere(std::uint32_t numero);
     [[nodiscard]] bool sposta(std::uint32_t numero);
     void aPagine();
 

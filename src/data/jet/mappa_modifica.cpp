@@ -37,8 +37,7 @@ void Mappa::aggiungi(std::uint32_t numero) {
 }
 
 void Mappa::togli(std::uint32_t numero) {
-    const bool globale = posizione_ == mappaGlobale(pagine_).posizione();
-    if (!cambia(numero, false) && globale)
+    if (!cambia(numero, false) && globale())
         allarga(numero);
 }
 
@@ -56,9 +55,11 @@ bool Mappa::cambia(std::uint32_t numero, bool dentro) {
     if (posto + 4 > r.lunga())
         return false;
     std::uint32_t p = r.u32(posto);
-    if (p == 0 && !dentro)
+    if (p == 0 && globale()) {
+        p = paginaDiLibere(numero);
+    } else if (p == 0 && !dentro) {
         return true;
-    if (p == 0) {
+    } else if (p == 0) {
         p = allocaPagina(pagine_);
         Pagina& nuova = pagine_.modifica(p);
         nuova.byte[0] = static_cast<std::uint8_t>(TipoPagina::Mappa);
@@ -97,23 +98,62 @@ void Mappa::aPagine() {
             throw erroreDao(dao::kDiscoPieno);
 }
 
+bool Mappa::globale() const {
+    return posizione_ == mappaGlobale(pagine_).posizione();
+}
+
+bool Mappa::inRiga() const {
+    return riga().u8(0) == InRiga;
+}
+
 /// The map of free pages grows with the file: what it doesn't cover counts as free.
 void Mappa::allarga(std::uint32_t numero) {
-    const std::string vecchia(riga().testo());
     const std::uint32_t base = riga().u32(1);
-    if (riga().u8(0) != InRiga || numero < base)
+    if (!inRiga() || numero < base)
         return;
     constexpr std::uint32_t kPasso = 4; // bytes
     std::size_t bit = (numero - base) / 8 + 1;
     bit += (kPasso - bit % kPasso) % kPasso;
-    ModificaDati pagina(pagine_, posizione_.pagina);
-    if (!pagina.entraAlPosto(posizione_.slot, kTestaRiga + bit))
-        throw erroreDao(dao::kDiscoPieno);
-    std::string nuova = vecchia;
-    nuova.resize(kTestaRiga + bit, '\xFF');
-    pagina.sostituisci(posizione_.slot, nuova, 0);
+    if (ModificaDati pagina(pagine_, posizione_.pagina);
+        pagina.entraAlPosto(posizione_.slot, kTestaRiga + bit)) {
+        std::string nuova(riga().testo());
+        nuova.resize(kTestaRiga + bit, '\xFF');
+        pagina.sostituisci(posizione_.slot, nuova, 0);
+    } else {
+        globaleAPagine();
+    }
     if (!cambia(numero, false))
         throw erroreDao(dao::kDiscoPieno);
+}
+
+/// The same as aPagine for the map of free pages, which can't ask itself for the pages that it needs.
+void Mappa::globaleAPagine() {
+    const auto libere = tutte();
+    const auto r = rigaDaModificare();
+    std::fill(r.begin(), r.end(), std::uint8_t{0});
+    r[0] = APagine;
+    for (std::uint32_t p = 0; p < pagine_.quante(); p += kBitPerPagina)
+        if (!cambia(p, false))
+            throw erroreDao(dao::kDiscoPieno);
+    for (const std::uint32_t p : libere)
+        (void)cambia(p, true);
+}
+
+/// A new bitmap page for that page's stretch of the file: what lies behind the file's end is free, what lies
+/// before it is in use, since nobody said otherwise.
+std::uint32_t Mappa::paginaDiLibere(std::uint32_t numero) {
+    const std::uint32_t tratto = numero / kBitPerPagina;
+    const std::uint32_t nuova = pagine_.aggiungi();
+    Pagina& pagina = pagine_.modifica(nuova);
+    pagina.byte.fill(0xFF);
+    pagina.scrivi32(0, static_cast<std::uint32_t>(TipoPagina::Mappa) | 0x0100);
+    const auto bit = std::span(pagina.byte).subspan(kTestaPagina);
+    for (std::uint32_t p = tratto * kBitPerPagina; p < pagine_.quante() && p / kBitPerPagina == tratto; ++p)
+        metti(bit, p % kBitPerPagina, false);
+    scriviU32(rigaDaModificare(), 1 + 4 * std::size_t{tratto}, nuova);
+    if (nuova / kBitPerPagina != tratto) // it may lie in a stretch of its own
+        togli(nuova);
+    return nuova;
 }
 
 } // namespace lumigrafo::jet

@@ -14,6 +14,8 @@ struct ColonnaNuova {
     Tipo tipo;
     std::uint16_t caratteri = 0;
     bool contatore = false;
+    std::string predefinito = {}; ///< expression of a new row's value
+    bool richiesta = false;
 };
 
 struct IndiceNuovo {

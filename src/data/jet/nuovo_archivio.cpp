@@ -4,11 +4,15 @@
 #include "data/jet/modifica_dati.h"
 #include "data/jet/ordinamento.h"
 #include "data/jet/pagina_indice.h"
+#include "data/jet/proprieta.h"
 #include "data/jet/spazio.h"
 #include "data/jet/tabella.h"
+#include "data/jet/valore_lungo.h"
 #include "platform/file_condiviso.h"
 
+#include <algorithm>
 #include <string_view>
+#include <utility>
 
 namespace lumigrafo::jet {
 
@@ -157,7 +161,10 @@ public:
         const Definizione& d = tabella_.definizione();
         Campi campi(d.colonne.size());
         for (const auto& [nome, dato] : valori)
-            campi[d.cerca(nome).value()] = scriviDato(d.colonne[*d.cerca(nome)], dato);
+            if (const Colonna& c = d.colonne[d.cerca(nome).value()]; !valoreLungo(c.tipo))
+                campi[*d.cerca(nome)] = scriviDato(c, dato);
+            else if (const auto* campo = std::get_if<jet::Byte>(&dato); campo && !campo->byte.empty())
+                campi[*d.cerca(nome)] = campo->byte; // it was made for this column
         tabella_.inserisci(campi);
     }
 
@@ -170,6 +177,7 @@ struct Oggetto {
     std::string_view nome;
     std::int64_t tipo, segni;
     std::string_view proprietario;
+    std::string proprieta; ///< the field that leads to them
 };
 
 void scriviOggetto(Pagine& pagine, const Oggetto& o) {
@@ -181,7 +189,8 @@ void scriviOggetto(Pagine& pagine, const Oggetto& o) {
                                         {"DateCreate", quando},
                                         {"DateUpdate", quando},
                                         {"Owner", jet::Byte{std::string(o.proprietario)}},
-                                        {"Flags", o.segni}});
+                                        {"Flags", o.segni},
+                                        {"LvProp", jet::Byte{o.proprieta}}});
     // Everybody may do everything: the users' group, the engine and the administrator.
     constexpr std::int64_t kTutto = 0xFFFFF;
     Scrittore diritti(pagine, kDiritti);
@@ -195,14 +204,31 @@ void scriviOggetto(Pagine& pagine, const Oggetto& o) {
 
 void scriviCatalogo(Pagine& pagine) {
     for (const Oggetto& o :
-         {Oggetto{kTabelle, kRadiceCatalogo, "Tables", kTipoContenitore, kDiSistema, kMotore},
-          {kBasi, kRadiceCatalogo, "Databases", kTipoContenitore, kDiSistema, kMotore},
-          {kLegami, kRadiceCatalogo, "Relationships", kTipoContenitore, kDiSistema, kMotore},
-          {kBaseDati, kBasi, "MSysDb", kTipoBase, kDiSistema, kAmministratore}})
+         {Oggetto{kTabelle, kRadiceCatalogo, "Tables", kTipoContenitore, kDiSistema, kMotore, {}},
+          {kBasi, kRadiceCatalogo, "Databases", kTipoContenitore, kDiSistema, kMotore, {}},
+          {kLegami, kRadiceCatalogo, "Relationships", kTipoContenitore, kDiSistema, kMotore, {}},
+          {kBaseDati, kBasi, "MSysDb", kTipoBase, kDiSistema, kAmministratore, {}}})
         scriviOggetto(pagine, o);
     for (std::uint32_t k = 0; k < std::size(kSistema); ++k)
-        scriviOggetto(pagine,
-                      {kPaginaCatalogo + k, kTabelle, kSistema[k].nome, kTipoTabella, kDiSistema, kMotore});
+        scriviOggetto(
+            pagine, {kPaginaCatalogo + k, kTabelle, kSistema[k].nome, kTipoTabella, kDiSistema, kMotore, {}});
+}
+
+/// Keeps what a table's design says of its columns, and gives the catalog's field that leads to it.
+std::string scriviProprieta(Pagine& pagine, const TabellaNuova& tabella) {
+    std::vector<Proprieta> proprieta;
+    for (const ColonnaNuova& c : tabella.colonne)
+        if (c.richiesta || !c.predefinito.empty())
+            proprieta.push_back({c.nome, c.predefinito, c.richiesta});
+    if (proprieta.empty())
+        return {};
+    const Definizione d = leggiDefinizione(pagine, kPaginaCatalogo);
+    const std::uint16_t numero = d.colonne[d.cerca("LvProp").value()].numero;
+    const auto mappe = std::find_if(d.mappeLunghe.begin(), d.mappeLunghe.end(),
+                                    [&](const auto& m) { return m.colonna == numero; });
+    if (mappe == d.mappeLunghe.end())
+        throw danno(kPaginaCatalogo, "le proprietà non hanno posto");
+    return scriviValoreLungo(pagine, mappe->possedute, componiProprieta(proprieta));
 }
 
 } // namespace
@@ -216,6 +242,7 @@ void nuovoArchivio(const std::filesystem::path& file, double creazione) {
 
 void creaTabella(Pagine& pagine, const TabellaNuova& tabella) {
     PostiTabella posti;
+    std::string proprieta;
     pagine.cambia([&] {
         posti = {};
         posti.definizione = allocaPagina(pagine);
@@ -227,9 +254,11 @@ void creaTabella(Pagine& pagine, const TabellaNuova& tabella) {
         }
         pagine.modifica(posti.definizione) = componiDefinizione(tabella, posti);
         accodaMappe(pagine, tabella, posti.mappe, posti.radici);
+        proprieta = scriviProprieta(pagine, tabella);
         return true;
     });
-    scriviOggetto(pagine, {posti.definizione, kTabelle, tabella.nome, kTipoTabella, 0, kAmministratore});
+    scriviOggetto(pagine, {posti.definizione, kTabelle, tabella.nome, kTipoTabella, 0, kAmministratore,
+                           std::move(proprieta)});
 }
 
 } // namespace lumigrafo::jet

@@ -122,6 +122,20 @@ bool Pagine::immutata() const {
     return ora == parole_;
 }
 
+void Pagine::usaTabella(std::uint32_t definizione, bool scrive) {
+    if (!stazione_)
+        return;
+    for (Pazienza pazienza(attesa_); !stazione_->apriTabella(definizione, scrive); pazienza.attendi()) {
+        if (!scrive && pazienza.ancora())
+            continue;
+        const std::string altra = stazione_->titolareTabella(definizione);
+        throw Guasto(scrive ? kOccupata : dao::kBloccatoLettura,
+                     std::string(scrive ? "Impossibile aggiornare" : "Impossibile leggere") +
+                         "; la tabella è riservata da " +
+                         (altra.empty() ? "un'altra stazione." : "'" + altra + "'."));
+    }
+}
+
 bool Pagine::altreStazioni() const {
     for (unsigned u = 1; u <= Stazione::kMassimo; ++u)
         if (stazione_ && stazione_->presente(u))

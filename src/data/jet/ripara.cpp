@@ -40,7 +40,7 @@ public:
         mappa(v, definizione_.libere, false);
         for (const Indice& i : definizione_.indici)
             mappa(v, i.mappa, true);
-        for (const auto& [lunghe, libere] : definizione_.mappeLunghe) {
+        for (const auto& [colonna, lunghe, libere] : definizione_.mappeLunghe) {
             mappa(v, lunghe, true);
             if (libere.pagina != 0)
                 mappa(v, libere, false);

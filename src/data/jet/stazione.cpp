@@ -9,8 +9,9 @@ namespace lumigrafo::jet {
 
 namespace {
 
-constexpr std::uint64_t kUtenti = 0x10000000, kPagine = 0x20000000;
-constexpr std::uint64_t kPassoPagina = 0x200, kPosti = 0x100;
+constexpr std::uint64_t kUtenti = 0x10000000, kPagine = 0x20000000, kTabelleLette = 0x40000000,
+                        kTabelleScritte = 0x50000000, kTabelleNonDaScrivere = 0x60000000;
+constexpr std::uint64_t kPasso = 0x200, kPosti = 0x100;
 constexpr std::size_t kVoce = 64, kNome = 32;
 
 FileCondiviso::Intervallo postoUtente(unsigned utente) {
@@ -23,7 +24,10 @@ FileCondiviso apriFile(const std::filesystem::path& archivio) {
     try {
         return {file, FileCondiviso::Modo::CreaSeManca};
     } catch (const Guasto&) {
-        throw erroreDao(dao::kBlocchi, file.string());
+        throw Guasto(dao::kBlocchi,
+                     "Impossibile creare o scrivere '" + file.string() +
+                         "', che le stazioni si dividono: servono i diritti di scrittura sulla "
+                         "cartella dell'archivio e su quel file.");
     }
 }
 
@@ -59,7 +63,7 @@ bool Stazione::presente(unsigned utente) const {
 
 /// An exclusive lock covers the places of all users and, beyond them, as many bytes as tell its holder.
 FileCondiviso::Intervallo Stazione::scrittura(std::uint32_t pagina) const {
-    return {kPagine + kPassoPagina * pagina + 1, kPosti + utente_};
+    return {kPagine + kPasso * pagina + 1, kPosti + utente_};
 }
 
 bool Stazione::blocca(std::uint32_t pagina) {
@@ -80,24 +84,54 @@ void Stazione::sbloccaDa(std::size_t quante) {
 }
 
 /// The user number is told from where the lock ends. Some file systems (SMB) only say that a range is taken
-/// and not what lock takes it, so its bytes are tried one by one.
-unsigned Stazione::chiBlocca(std::uint32_t pagina) const {
+/// and not what lock takes it, so its bytes are tried one by one. `inizio`: of the page's or table's range.
+unsigned Stazione::chiBlocca(std::uint64_t inizio, bool ancheCondiviso) const {
     const auto preso = [&](std::uint64_t posto) {
-        return file_.bloccoAltrui({kPagine + kPassoPagina * pagina + posto, 1}, true).has_value();
+        return file_.bloccoAltrui({inizio + posto, 1}, true).has_value();
     };
     unsigned utente = 0;
     for (unsigned passo = (kMassimo + 1) / 2; passo > 0; passo /= 2)
         if (preso(kPosti + utente + passo))
             utente += passo;
     // A shared lock is one byte at its holder's place.
-    for (unsigned u = 1; utente == 0 && u <= kMassimo; ++u)
+    for (unsigned u = 1; ancheCondiviso && utente == 0 && u <= kMassimo; ++u)
         if (preso(u))
             utente = u;
     return utente;
 }
 
 std::string Stazione::titolare(std::uint32_t pagina) const {
-    const unsigned utente = chiBlocca(pagina);
+    return nomeDi(chiBlocca(kPagine + kPasso * pagina, true));
+}
+
+bool Stazione::apriTabella(std::uint32_t tabella, bool scrive) {
+    const std::uint64_t inizio = kPasso * tabella;
+    const auto segna = [&](std::unordered_set<std::uint32_t>& segnate, std::uint64_t genere) {
+        if (segnate.contains(tabella))
+            return true;
+        if (file_.blocca({genere + inizio + utente_, 1}, false) != FileCondiviso::Esito::Preso)
+            return false;
+        segnate.insert(tabella);
+        return true;
+    };
+    if (!segna(lette_, kTabelleLette) || (scrive && !segna(scritte_, kTabelleScritte)))
+        return false;
+    if (!scrive || !file_.bloccoAltrui({kTabelleNonDaScrivere + inizio + 1, kMassimo}, true))
+        return true;
+    scritte_.erase(tabella);
+    file_.sblocca({kTabelleScritte + inizio + utente_, 1});
+    return false;
+}
+
+std::string Stazione::titolareTabella(std::uint32_t tabella) const {
+    const std::uint64_t inizio = kPasso * tabella;
+    for (const std::uint64_t genere : {kTabelleLette, kTabelleScritte}) // many may share these
+        if (const unsigned utente = chiBlocca(genere + inizio, false))
+            return nomeDi(utente);
+    return nomeDi(chiBlocca(kTabelleNonDaScrivere + inizio, true));
+}
+
+std::string Stazione::nomeDi(unsigned utente) const {
     if (utente == 0)
         return {};
     std::array<std::uint8_t, kNome> nome{};

@@ -35,6 +35,12 @@ public:
     /// Whether a station other than this one is there under that number (1 to 255).
     [[nodiscard]] bool presente(unsigned utente) const;
 
+    /// Tells the others that this station has a table open, from now on for as long as it is there. False
+    /// where another one keeps it for itself.
+    [[nodiscard]] bool apriTabella(std::uint32_t tabella, bool scrive);
+    /// The computer of the station that does; empty where it can't be told any more.
+    [[nodiscard]] std::string titolareTabella(std::uint32_t tabella) const;
+
     /// Keeps all others from writing a page until `sblocca`; false where another does so already. Locking
     /// again what is locked is true.
     [[nodiscard]] bool blocca(std::uint32_t pagina);
@@ -48,12 +54,15 @@ public:
 private:
     explicit Stazione(const std::filesystem::path& archivio);
     bool prendi(unsigned utente, const std::string& computer);
-    [[nodiscard]] unsigned chiBlocca(std::uint32_t pagina) const; ///< 0: nobody, any more
+    /// 0: nobody, any more.
+    [[nodiscard]] unsigned chiBlocca(std::uint64_t inizio, bool ancheCondiviso) const;
     [[noreturn]] static void tuttiPresi();
     [[nodiscard]] FileCondiviso::Intervallo scrittura(std::uint32_t pagina) const;
+    [[nodiscard]] std::string nomeDi(unsigned utente) const; ///< empty for 0
 
     FileCondiviso file_;
     unsigned utente_ = 0;
+    std::unordered_set<std::uint32_t> lette_, scritte_; ///< tables
     std::unordered_set<std::uint32_t> bloccate_;
     std::vector<std::uint32_t> ordine_; ///< the same, as they were taken
 };

@@ -71,6 +71,7 @@ void Tabella::riserva(Posizione posizione) {
 }
 
 void Tabella::verificaScrivibile() {
+    pagine_.usaTabella(numero_, true);
     for (const Indice& i : definizione().indici)
         if (!chiaviPossibili(definizione_, i))
             throw Guasto(dao::kSolaLettura, "L'indice '" + i.nome +

@@ -26,6 +26,8 @@ public:
     /// somebody has changed the columns since then.
     [[nodiscard]] const Definizione& definizione();
     [[nodiscard]] Pagine& pagine() { return pagine_; }
+    /// Tells the other stations that the table is being read. Throws Guasto 3187.
+    void apri() { pagine_.usaTabella(numero_, false); }
 
     [[nodiscard]] std::vector<RigaTrovata> righe() { return scorri(pagine_, definizione()); }
     /// Nothing where the row is gone.

@@ -1,6 +1,10 @@
 #include "data/jet/valore_lungo.h"
 
+#include "data/errori_dao.h"
+#include "data/jet/mappa.h"
+#include "data/jet/modifica_dati.h"
 #include "data/jet/pagina_dati.h"
+#include "data/jet/spazio.h"
 
 namespace lumigrafo::jet {
 
@@ -44,6 +48,24 @@ std::string leggiValoreLungo(Pagine& pagine, Vista campo) {
         throw danno(campo.pagina(), "un valore lungo è tronco");
     dati.resize(lunga);
     return dati;
+}
+
+std::string scriviValoreLungo(Pagine& pagine, Posizione mappa, std::string_view dati) {
+    constexpr std::uint32_t kSegno = 0x4C41564C; // the letters LVAL
+    if (dati.size() > PaginaDati::kRigaMassima)
+        throw erroreDao(dao::kRigaLunga);
+    const std::uint32_t pagina = allocaPagina(pagine);
+    ModificaDati::inizia(pagine.modifica(pagina), kSegno);
+    Mappa(pagine, mappa).aggiungi(pagina);
+    const Posizione posto{pagina, ModificaDati(pagine, pagina).aggiungi(dati, 0)};
+    std::string campo;
+    for (int i = 0; i < 3; ++i)
+        campo += static_cast<char>(dati.size() >> (8 * i));
+    campo += static_cast<char>(InAltraRiga);
+    for (int i = 0; i < 4; ++i)
+        campo += static_cast<char>(posto.puntatore() >> (8 * i));
+    campo.resize(kTesta, '\0');
+    return campo;
 }
 
 } // namespace lumigrafo::jet

@@ -93,12 +93,14 @@ private:
         for (const std::uint32_t p : mappa(definizione_.libere, nome_))
             if (!std::binary_search(possedute.begin(), possedute.end(), p))
                 discorda(nome_ + ": la pagina " + std::to_string(p) + " ha posto ma non è sua.");
-        for (const auto& [lunghe, conPosto] : definizione_.mappeLunghe) {
+        for (const auto& [colonna, lunghe, conPosto] : definizione_.mappeLunghe) {
             for (const std::uint32_t p : mappa(lunghe, nome_))
                 usa(p, nome_);
             if (conPosto.pagina != 0) // Access makes it when it is first needed
                 (void)mappa(conPosto, nome_);
         }
+        if (!voce.proprieta.empty())
+            tenta(nome_ + ", proprietà", [&] { (void)leggiProprieta(pagine_, voce); });
         righe(possedute);
         if (const std::size_t n = trovate_.size(); n != definizione_.righe) {
             const std::string testo = nome_ + ": la definizione conta " + std::to_string(definizione_.righe) +

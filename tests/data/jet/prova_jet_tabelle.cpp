@@ -1,0 +1,190 @@
+// What surrounds the rows: rules of a table's design, tables that can't be used or that others keep for
+// themselves, and a file that outgrows its map of free pages.
+#include "data/dao.h"
+#include "data/jet/catalogo.h"
+#include "data/jet/dato.h"
+#include "data/jet/nuova_tabella.h"
+#include "data/jet/spazio.h"
+#include "data/jet/tabella.h"
+#include "data/jet/testo.h"
+#include "data/jet/verifica.h"
+#include "data/schema.h"
+#include "platform/file_condiviso.h"
+#include "tests/data/attesa_guasto.h"
+#include "tests/sostegno/cartella_temporanea.h"
+
+#include <functional>
+#include <gtest/gtest.h>
+#include <set>
+#include <utility>
+
+namespace lumigrafo::jet {
+namespace {
+
+using prova::guastoDi;
+
+class JetTabelle : public ::testing::Test {
+protected:
+    JetTabelle() { creaArchivio(file, Formato::Access); }
+
+    /// Changes the archive with nobody else in it.
+    template <typename Cambio>
+    void cambia(Cambio&& cambio) {
+        Pagine pagine(file, {.da_soli = true});
+        cambio(pagine);
+        pagine.registra();
+    }
+    std::uint32_t definizioneDi(const std::string& nome) {
+        Pagine pagine(file, {.da_soli = true});
+        for (const VoceCatalogo& v : leggiCatalogo(pagine))
+            if (v.nome == nome)
+                return v.definizione;
+        return 0;
+    }
+    std::vector<std::string> discordanze() {
+        Pagine pagine(file, {.da_soli = true});
+        return verifica(pagine).discordanze;
+    }
+    static std::string testoDi(const std::function<void()>& azione) {
+        try {
+            azione();
+        } catch (const Guasto& guasto) {
+            return std::to_string(guasto.numero()) + ' ' + guasto.descrizione();
+        }
+        return {};
+    }
+
+    prova::CartellaTemporanea cartella;
+    const std::filesystem::path file = cartella.percorso() / kFileArchivio;
+    Workspace ws{std::chrono::milliseconds(60)};
+};
+
+TEST_F(JetTabelle, PredefinitiECampiRichiesti) {
+    cambia([](Pagine& pagine) {
+        creaTabella(pagine, {"Regole",
+                             {{"Nome", Tipo::Testo, 20, false, R"("senza ""nome""")"},
+                              {"Obbligo", Tipo::Lungo, 0, false, "", true},
+                              {"Si", Tipo::Booleano, 0, false, "Yes"},
+                              {"N", Tipo::Intero, 0, false, "=-1.5e1"},
+                              {"Calcolo", Tipo::Intero, 0, false, "=Len(\"x\")"},
+                              {"Troppo", Tipo::Intero, 0, false, "70000"}},
+                             {}});
+    });
+    EXPECT_EQ(discordanze(), std::vector<std::string>());
+    const auto db = ws.OpenDatabase(file.string());
+    EXPECT_EQ(guastoDi([&] { db->Execute("Insert into Regole (Nome) values ('x')"); }), dao::kCampoRichiesto);
+    db->Execute("Insert into Regole (Obbligo) values (1)");
+    EXPECT_EQ(guastoDi([&] { db->Execute("Update Regole set Obbligo = Null"); }), dao::kCampoRichiesto);
+    const auto rs = db->OpenRecordset("Regole");
+    ASSERT_EQ(rs->RecordCount(), 1);
+    const auto valore = [&](const char* nome) { return rs->Fields()[nome].Value(); };
+    EXPECT_EQ(valore("Nome").aTesto(), "senza \"nome\"");
+    EXPECT_EQ(valore("Si").aIntero16(), -1);
+    EXPECT_EQ(valore("N").aIntero16(), -15);
+    EXPECT_TRUE(valore("Calcolo").nullo() && valore("Troppo").nullo());
+}
+
+TEST_F(JetTabelle, QuelleInservibiliNonFermanoLeAltre) {
+    const std::uint32_t numero = definizioneDi("Numero");
+    cambia([&](Pagine& pagine) {
+        Tabella catalogo(pagine, kPaginaCatalogo);
+        const Definizione& d = catalogo.definizione();
+        Campi campi(d.colonne.size());
+        const auto metti = [&](const char* nome, const Dato& dato) {
+            campi[*d.cerca(nome)] = scriviDato(d.colonne[*d.cerca(nome)], dato);
+        };
+        metti("Id", std::int64_t{12345});
+        metti("ParentId", std::int64_t{1});
+        metti("Name", "Altrui");
+        metti("Type", std::int64_t{6});
+        const std::string dove = scriviTesto("Z:\\casse.mdb", false);
+        std::string memo = {static_cast<char>(dove.size()), '\0', '\0', '\x80'};
+        memo.resize(12, '\0');
+        campi[*d.cerca("Database")] = memo + dove;
+        catalogo.inserisci(campi);
+        pagine.cambia([&] {
+            pagine.modifica(numero).scrivi16(45, 300); // columns
+            return true;
+        });
+    });
+    const auto db = ws.OpenDatabase(file.string());
+    const std::string collegata = testoDi([&] { (void)db->OpenRecordset("altrui"); });
+    EXPECT_TRUE(collegata.starts_with("3078 ") && collegata.find("'Z:\\casse.mdb'") != collegata.npos)
+        << collegata;
+    const std::string guasta = testoDi([&] { db->Execute("Update Numero set Numero = 1"); });
+    EXPECT_TRUE(guasta.starts_with("3049 La tabella 'Numero' ")) << guasta;
+    EXPECT_EQ(db->Execute("Insert into Categorie (Codice) values (4)"), 1);
+    EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Nessuna"); }), dao::kTabellaMancante);
+}
+
+TEST_F(JetTabelle, StannoAperteSottoGliOcchiDelleAltreStazioni) {
+    const std::uint64_t passo = 0x200 * std::uint64_t{definizioneDi("Categorie")};
+    const auto db = ws.OpenDatabase(file.string());
+    auto ldb = file;
+    FileCondiviso altra(ldb.replace_extension(".ldb"), FileCondiviso::Modo::Scrittura);
+    const std::string nome = "CASSA7";
+    altra.scrivi(6 * 64, {reinterpret_cast<const std::uint8_t*>(nome.c_str()), nome.size() + 1});
+    const FileCondiviso::Intervallo tutta{0x40000000 + passo + 1, 0x100 + 7};
+    const FileCondiviso::Intervallo nonScrivere{0x60000000 + passo + 7, 1};
+    using enum FileCondiviso::Esito;
+
+    ASSERT_EQ(altra.blocca(tutta, true), Preso);
+    const std::string letta = testoDi([&] { (void)db->OpenRecordset("Categorie"); });
+    EXPECT_TRUE(letta.starts_with("3187 ") && letta.find("'CASSA7'") != letta.npos) << letta;
+    EXPECT_EQ(db->OpenRecordset("Numero")->RecordCount(), 1);
+    altra.sblocca(tutta);
+    EXPECT_EQ(db->OpenRecordset("Categorie")->RecordCount(), 0);
+    EXPECT_EQ(altra.blocca(tutta, true), Occupato); // it is being read
+
+    const auto inserisci = [&] { db->Execute("Insert into Categorie (Codice) values (1)"); };
+    ASSERT_EQ(altra.blocca(nonScrivere, false), Preso);
+    const std::string scritta = testoDi(inserisci);
+    EXPECT_TRUE(scritta.starts_with("3186 ") && scritta.find("'CASSA7'") != scritta.npos) << scritta;
+    altra.sblocca(nonScrivere);
+    EXPECT_EQ(guastoDi(inserisci), 0);
+}
+
+TEST_F(JetTabelle, LaMappaDellePagineLibereSuperaLaSuaRiga) {
+    constexpr std::uint32_t kPrima = 32500, kNuove = 400; // the row holds about 31,000, a bitmap page 32,736
+    cambia([](Pagine& pagine) { // what its map calls free behind the file's end is about to lie inside
+        pagine.cambia([&] {
+            for (std::uint32_t p = pagine.quante(); p < 512; ++p)
+                mappaGlobale(pagine).togli(p);
+            return true;
+        });
+    });
+    std::filesystem::resize_file(file, std::uintmax_t{kPrima} * kPagina);
+    std::set<std::uint32_t> mie;
+    const auto prendi = [&](std::uint32_t quante) {
+        cambia([&](Pagine& pagine) {
+            pagine.cambia([&] {
+                for (std::uint32_t i = 0; i < quante; ++i)
+                    EXPECT_TRUE(mie.insert(allocaPagina(pagine)).second);
+                return true;
+            });
+        });
+    };
+    prendi(kNuove);
+    EXPECT_EQ(*mie.begin(), kPrima);
+    cambia([&](Pagine& pagine) {
+        const Mappa libere = mappaGlobale(pagine);
+        EXPECT_TRUE(libere.tutte().empty());
+        ASSERT_EQ(libere.pagineDiBit().size(), 2U);
+        for (const std::uint32_t p : libere.pagineDiBit())
+            EXPECT_FALSE(mie.contains(p));
+        EXPECT_EQ(pagine.quante(), kPrima + kNuove + 2);
+        pagine.cambia([&] {
+            for (const std::uint32_t p : mie)
+                liberaPagina(pagine, p);
+            return true;
+        });
+        EXPECT_EQ(libere.tutte(), std::vector<std::uint32_t>(mie.begin(), mie.end()));
+    });
+    EXPECT_EQ(discordanze(), std::vector<std::string>());
+    const auto prima = std::exchange(mie, {});
+    prendi(kNuove); // what was given back is used again
+    EXPECT_EQ(mie, prima);
+}
+
+} // namespace
+} // namespace lumigrafo::jet
