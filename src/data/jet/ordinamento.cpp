@@ -158,7 +158,8 @@ std::string chiaveTesto(std::u16string_view testo) {
 // A character without a place stands behind 0xFF, which is no weight.
 std::string chiaveDiConfronto(std::string_view utf8) {
     Chiave k;
-    for (const char16_t c : significativo(aUtf16(utf8))) {
+    const std::u16string testo = aUtf16(utf8);
+    for (const char16_t c : significativo(testo)) {
         if (const auto peso = pesoDi(c))
             k.aggiungi(*peso);
         else
