@@ -153,7 +153,8 @@ void Chiamata::AggiornaGridDB(const std::string& sigla, const std::string& numer
     const Griglia& grid = c_.stato.grid.at(static_cast<std::size_t>(index));
     const int r = riga == -1 ? grid.Row() : riga;
     const int k = colonna == -1 ? grid.Col() : colonna;
-    const bool trovato = depenna(sigla, numero, index);
+    bool trovato = false;
+    c_.stato.Ws->cedendo([&] { trovato = depenna(sigla, numero, index); });
     if (trovato)
         svuotaCella(index, r, k);
     caricatore_.ChiudiRsLumigrafo();

@@ -1,5 +1,7 @@
 #include "data/dao.h"
 
+#include "data/jet/pazienza.h"
+
 #include <filesystem>
 
 namespace lumigrafo {
@@ -41,6 +43,28 @@ void Workspace::Rollback() {
     for (const auto& s : aperte()) {
         s->motore().annulla();
         s->modificato();
+    }
+}
+
+void Workspace::cedendo(const std::function<void()>& lavoro) {
+    const auto cede = [this](bool si) {
+        for (const auto& s : aperte())
+            s->motore().cedevole(si);
+    };
+    cede(true);
+    for (jet::Pazienza pazienza(attesa_);;) {
+        try {
+            lavoro();
+            return cede(false);
+        } catch (const Guasto& guasto) {
+            const bool bloccato = guasto.numero() == dao::kBloccatoAggiornamento ||
+                                  guasto.numero() == dao::kBloccatoSalvataggio;
+            if (!bloccato || !pazienza.ancora()) {
+                cede(false);
+                throw;
+            }
+        }
+        pazienza.attendi();
     }
 }
 

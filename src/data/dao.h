@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -57,6 +58,11 @@ public:
     void BeginTrans();
     void CommitTrans();
     void Rollback();
+    /// Does work that is one transaction, or undoes itself where it throws. Another station may wait for what
+    /// this one holds and hold what it waits for: so this one waits for a lock but briefly, gives up what it
+    /// has and begins `lavoro` anew, up to the longest wait. Throws Guasto 3218 behind that, and what
+    /// `lavoro` throws.
+    void cedendo(const std::function<void()>& lavoro);
 
 private:
     [[nodiscard]] std::vector<std::shared_ptr<Sessione>> aperte();

@@ -44,6 +44,9 @@ public:
     /// True where a statement that ran into another station's change or lock is worth running again from its
     /// begin: it gave up what it held, and may find what it needs.
     [[nodiscard]] virtual bool siRipete() const { return false; }
+    /// While true, a lock of another station is waited for but briefly: who asks for it gives way and begins
+    /// anew.
+    virtual void cedevole(bool) {}
     /// Undoes the transaction and gives every lock back.
     virtual void annulla() noexcept = 0;
 };

@@ -4,6 +4,8 @@
 #include "data/motore.h"
 #include "data/tabella_virtuale.h"
 
+#include <optional>
+
 namespace lumigrafo {
 
 /// The cash desks' own archive: a file of Access, shared with all stations that work on it. A row that is
@@ -24,12 +26,18 @@ public:
     void sblocca() override;
     void annulla() noexcept override;
     [[nodiscard]] bool siRipete() const override { return true; }
+    void cedevole(bool si) override {
+        breve_.reset();
+        if (si)
+            breve_.emplace(pagine_, true);
+    }
 
 private:
     jet::Pagine pagine_;
     TabelleVirtuali tabelle_;
     sqlite3* db_ = nullptr;
     int blocchi_ = 0;
+    std::optional<jet::Pagine::AttesaBreve> breve_;
 };
 
 } // namespace lumigrafo

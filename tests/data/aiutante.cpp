@@ -43,6 +43,8 @@ public:
             conta(std::stoi(resto));
         } else if (comando == "inizia") {
             ws_.BeginTrans();
+        } else if (comando == "conferma") {
+            ws_.CommitTrans();
         } else if (comando == "esclusivo") {
             sqlite3_open(resto.c_str(), &nudo_);
             sqlite3_exec(nudo_, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);

@@ -100,6 +100,37 @@ TEST_F(Concorrenza, NessunaModificaVaPerduta) {
     EXPECT_EQ(pezzi(), "120");
 }
 
+TEST_F(Concorrenza, DiDueCheSiAspettanoAVicendaUnoCede) {
+    if (!prova::archiviAccess())
+        GTEST_SKIP() << "who writes to such an archive has locked all of it";
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    ASSERT_EQ(altra("inizia"), "fatto");
+    ASSERT_EQ(altra("esegui UPDATE DettaglioLumigrafo SET SERVITO = -1"), "fatto");
+    Workspace paziente{2s};
+    const auto nostro = paziente.OpenDatabase(file.string());
+    int volte = 0;
+    paziente.cedendo([&] {
+        paziente.BeginTrans();
+        try {
+            nostro->Execute("UPDATE Lumigrafo SET Pezzi2 = Pezzi2 + 1");
+            if (++volte == 1)
+                altra.manda("esegui UPDATE Lumigrafo SET Pezzi1 = 9"); // it waits for us, and we for it
+            nostro->Execute("UPDATE DettaglioLumigrafo SET MinutiServito = 7");
+            paziente.CommitTrans();
+        } catch (const Guasto&) {
+            paziente.Rollback();
+            if (volte == 1) {
+                EXPECT_EQ(altra.risposta(), "fatto");
+                EXPECT_EQ(altra("conferma"), "fatto");
+            }
+            throw;
+        }
+    });
+    EXPECT_EQ(volte, 2);
+    EXPECT_EQ(archivio.leggi("SELECT Pezzi1, Pezzi2 FROM Lumigrafo"), "9|2");
+    EXPECT_EQ(archivio.leggi("SELECT DISTINCT SERVITO, MinutiServito FROM DettaglioLumigrafo"), "-1|7");
+}
+
 TEST_F(Concorrenza, UnaStazioneUccisaLasciaLArchivioIntero) {
     ASSERT_EQ(altra("apri " + file.string()), "fatto");
     ASSERT_EQ(altra("inizia"), "fatto");
