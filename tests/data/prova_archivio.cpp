@@ -1,7 +1,10 @@
 #include "data/dao.h"
+#include "data/jet/catalogo.h"
 #include "platform/finti/finti.h"
 #include "strumenti/archivio/codice_scontrino.h"
 #include "strumenti/archivio/programma.h"
+#include "tests/data/jet/esporta.h"
+#include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
 #include <fstream>
@@ -31,7 +34,7 @@ protected:
         return testo;
     }
 
-    prova::CartellaTemporanea temporanea;
+    prova::CartellaTemporanea temporanea = prova::CartellaTemporanea::inMemoria();
     const std::string cartella = (temporanea.percorso() / "nuova").string();
     OrologioFinto orologio; // 15 March 2026, 20:30
     std::ostringstream out, err;
@@ -121,6 +124,95 @@ TEST_P(ArchivioDimostrativo, EIntero) {
     EXPECT_EQ(leggi("Select * from Lumigrafo Order by Sigla, Numero"), prima);
 }
 
+/// Rows, nulls and types of all tables of an archive.
+std::string tutto(const std::string& cartella) {
+    std::string testo;
+    const auto db = Workspace().OpenDatabase(cartella + "/" + kFileArchivio);
+    for (const char* tabella :
+         {"Categorie", "Numero", "Lumigrafo", "DettaglioLumigrafo", "Dettaglio", "ScontriniEmessi"}) {
+        const auto rs = db->OpenRecordset(std::string("Select * from ") + tabella + " Order by 1, 2");
+        for (const Field& c : rs->Fields().tutti())
+            testo += c.Name() + ":" + std::to_string(c.Type()) + "/" + std::to_string(c.Size()) + " ";
+        for (; !rs->Eof(); rs->MoveNext(), testo += "\n")
+            for (const Field& c : rs->Fields().tutti()) {
+                const Valore v = c.Value();
+                testo += (v.nullo() ? "NULL" : v.aTesto()) + "|";
+            }
+    }
+    return testo;
+}
+
+TEST_P(ArchivioDimostrativo, SiConverteNellAltroFormatoEIndietro) {
+    const std::string formato = GetParam(), altro = formato == "access" ? "sqlite" : "access";
+    const auto la = cartella + "/la", qua = cartella + "/qua";
+    ASSERT_EQ((*this)({"crea", cartella, "--formato", formato, "--dimostrativo", "40"}), 0);
+    {
+        const auto db = ws.OpenDatabase(cartella + "/" + kFileArchivio);
+        db->Execute("Update Lumigrafo Set Sigla = Null, Pezzi2 = Null Where Sigla = 'E'");
+        db->Execute("Update Dettaglio Set Prezzo = -1234.5678, Descrizione = 'Più caffè 3€' Where ID = 7");
+    }
+    ASSERT_EQ((*this)({"converti", cartella, la, "--formato", altro}), 0) << err.str();
+    EXPECT_NE(out.str().find("\nLumigrafo: 40 righe.\n"), std::string::npos);
+    EXPECT_EQ(out.str().find("non viene copiata"), std::string::npos);
+    ASSERT_EQ((*this)({"converti", la, qua, "--formato", formato}), 0) << err.str();
+    for (const std::string& dove : {la, qua}) {
+        EXPECT_EQ(tutto(dove), tutto(cartella));
+        EXPECT_EQ((*this)({"verifica", dove}), 0) << out.str();
+    }
+    for (const char* tabella : {"Lumigrafo", "ScontriniEmessi", "Dettaglio"}) {
+        const auto con = [&](const std::string& dove) {
+            return prova::righeOrdinate(prova::mdbExport(dove + "/" + kFileArchivio, tabella));
+        };
+        if (formato == "access") {
+            EXPECT_EQ(con(qua), con(cartella));
+        }
+    }
+    for (const std::string& dove : {la, qua}) // the autonumbers go on behind those that were copied
+        EXPECT_EQ((*this)({"ordine", dove, "--sigla", "Z", "--numero", "1", "--categoria", "1=1"}), 0);
+    // Nothing is overwritten, and what fails leaves nothing behind.
+    EXPECT_EQ((*this)({"converti", cartella, qua, "--formato", altro}), 1);
+    EXPECT_EQ((*this)({"converti", cartella + "/nessuna", cartella + "/nuova", "--formato", altro}), 1);
+    EXPECT_FALSE(std::filesystem::exists(cartella + "/nuova"));
+}
+
+TEST_F(Strumento, LaConversioneDiceCheCosaNonCopia) {
+    ASSERT_EQ((*this)({"crea", cartella}), 0);
+    prova::ArchivioProva(cartella + "/" + kFileArchivio)
+        .esegui("CREATE TABLE Articoli (Codice INTEGER); ALTER TABLE Numero ADD COLUMN Nota TEXT(20)");
+    ASSERT_EQ((*this)({"converti", cartella, cartella + "/altra", "--formato", "access"}), 0) << err.str();
+    EXPECT_NE(out.str().find("La colonna Nota di Numero non viene copiata.\n"), std::string::npos);
+    EXPECT_NE(out.str().find("La tabella Articoli non viene copiata.\n"), std::string::npos);
+}
+
+TEST_F(Strumento, RiparaUnArchivioAccess) {
+    ASSERT_EQ((*this)({"crea", cartella, "--formato", "access", "--dimostrativo", "30"}), 0);
+    EXPECT_EQ((*this)({"ripara", cartella}), 0);
+    EXPECT_EQ(out.str(), "Non c'era niente da riparare.\n");
+    const std::string prima = tutto(cartella), file = cartella + "/" + kFileArchivio;
+    {
+        jet::Pagine pagine(file, {.da_soli = true});
+        for (const jet::VoceCatalogo& v : leggiCatalogo(pagine))
+            if (v.nome == "Lumigrafo")
+                pagine.cambia([&] { // its first index has lost its root
+                    const auto d = leggiDefinizione(pagine, v.definizione);
+                    pagine.modifica(d.indici.front().radice).byte.fill(0);
+                    return true;
+                });
+        pagine.registra();
+    }
+    EXPECT_EQ((*this)({"verifica", cartella}), 1);
+    EXPECT_NE(out.str().find("! la tabella 'Lumigrafo', indice 'LumigrafoOrdine'"), std::string::npos);
+    {
+        const auto altra = ws.OpenDatabase(file);
+        EXPECT_EQ((*this)({"ripara", cartella}), 1) << "another station has it open";
+    }
+    EXPECT_EQ((*this)({"ripara", cartella}), 0) << err.str();
+    EXPECT_NE(out.str().find("rifatto l'indice 'LumigrafoOrdine'"), std::string::npos);
+    EXPECT_TRUE(std::filesystem::exists(cartella + "/archivio-prima-della-riparazione.mdb"));
+    EXPECT_EQ((*this)({"verifica", cartella}), 0) << out.str();
+    EXPECT_EQ(tutto(cartella), prima);
+}
+
 TEST_F(Strumento, ChiamateErrate) {
     const std::vector<std::string> casi[] = {
         {},
@@ -141,6 +233,12 @@ TEST_F(Strumento, ChiamateErrate) {
         {"ordine", cartella, "--sigla", "AB", "--numero", "1", "--categoria", "1=1"},
         {"ordine", cartella, "--sigla", "'", "--numero", "1", "--categoria", "1=1"},
         {"mostra", cartella, "--tutto"},
+        {"verifica"},
+        {"ripara", cartella, "altra"},
+        {"converti", cartella, "altra"},
+        {"converti", cartella, "--formato", "access"},
+        {"converti", cartella, "altra", "terza", "--formato", "access"},
+        {"converti", cartella, "altra", "--formato", "dbf"},
     };
     for (const auto& argomenti : casi) {
         EXPECT_EQ((*this)(argomenti), 2) << (argomenti.empty() ? "" : argomenti.back());

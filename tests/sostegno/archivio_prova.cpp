@@ -2,6 +2,7 @@
 
 #include "data/motore.h"
 #include "data/schema.h"
+#include "data/verifica_archivio.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,11 +24,11 @@ bool archiviAccess() {
     return formato && std::string(formato) == "access";
 }
 
-ArchivioProva::ArchivioProva(std::filesystem::path file) {
-    const bool nuovo = !std::filesystem::exists(file);
+ArchivioProva::ArchivioProva(std::filesystem::path file) : file_(std::move(file)) {
+    const bool nuovo = !std::filesystem::exists(file_);
     if (nuovo)
-        creaArchivio(file, archiviAccess() ? Formato::Access : Formato::Sqlite);
-    motore_ = apriMotore(file, std::chrono::seconds(5));
+        creaArchivio(file_, archiviAccess() ? Formato::Access : Formato::Sqlite);
+    motore_ = apriMotore(file_, std::chrono::seconds(5));
     db_ = motore_->connessione();
     esegui("PRAGMA synchronous = OFF"); // a test's own rows needn't outlive a power cut
     if (nuovo)
@@ -36,6 +37,10 @@ ArchivioProva::ArchivioProva(std::filesystem::path file) {
 }
 
 ArchivioProva::~ArchivioProva() {
+    annulla();
+}
+
+void ArchivioProva::annulla() {
     motore_->annulla();
 }
 
@@ -90,6 +95,13 @@ std::string ArchivioProva::leggi(const std::string& sql) {
     }
     sqlite3_finalize(stmt);
     return tutto;
+}
+
+std::string ArchivioProva::discordanze() const {
+    std::string tutte;
+    for (const std::string& d : verificaArchivio(file_).discordanze)
+        tutte += d + '\n';
+    return tutte;
 }
 
 std::string ArchivioProva::coda() {

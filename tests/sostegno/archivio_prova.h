@@ -32,14 +32,19 @@ public:
     void ordine(const std::optional<std::string>& sigla, int numero,
                 const std::vector<std::pair<int, int>>& categorie, bool evidenzia = false);
     void esegui(const std::string& sql);
+    /// Undoes what `esegui` has begun with BEGIN; nothing else.
+    void annulla();
     /// All rows of a query: fields joined by '|', rows by blanks; null is "NULL".
     [[nodiscard]] std::string leggi(const std::string& sql);
+    /// What `verifica` finds in the file, a line each.
+    [[nodiscard]] std::string discordanze() const;
     /// "A12 B7": letters and numbers in the queue, in order.
     [[nodiscard]] std::string coda();
 
     std::string dataCompetenza = "20260315"; ///< of new orders, yyyymmdd
 
 private:
+    std::filesystem::path file_;
     std::unique_ptr<Motore> motore_;
     sqlite3* db_ = nullptr; ///< the engine's
 };

@@ -1,8 +1,11 @@
 #include "strumenti/archivio/converti.h"
 
 #include "data/dao.h"
+#include "data/jet/definizione.h"
 #include "data/schema.h"
 
+#include <algorithm>
+#include <iterator>
 #include <ostream>
 #include <string>
 
@@ -26,11 +29,23 @@ int copiaTabella(Recordset& da, Recordset& a, const std::string& tabella, std::o
     for (; !da.Eof(); da.MoveNext(), ++righe) {
         a.AddNew();
         for (const auto& [origine, meta] : campi)
-            if (const Valore v = origine->Value(); !v.nullo())
-                meta->Value(v);
+            if (const Valore v = origine->Value(); !v.nullo() || meta->Type() != dao::dbBoolean)
+                meta->Value(v); // a null too: the new table's default isn't what the row says
         a.Update();
     }
     return righe;
+}
+
+/// Names the tables of an archive that are left behind.
+void diNonCopiate(Database& origine, std::ostream& out) {
+    const auto tabelle = origine.OpenRecordset("Select name from sqlite_master where type = 'table'");
+    for (; !tabelle->Eof(); tabelle->MoveNext()) {
+        const std::string nome = tabelle->Fields().Item(0).Value().aTestoOVuoto();
+        const bool nostra = std::any_of(std::begin(kTabelle), std::end(kTabelle),
+                                        [&](const char* t) { return jet::stessoNome(t, nome); });
+        if (!nostra && !nome.starts_with("sqlite_"))
+            out << "La tabella " << nome << " non viene copiata.\n";
+    }
 }
 
 } // namespace
@@ -38,6 +53,8 @@ int copiaTabella(Recordset& da, Recordset& a, const std::string& tabella, std::o
 void converti(const std::filesystem::path& da, const std::filesystem::path& a, Formato formato,
               std::ostream& out) {
     const auto origine = Workspace().OpenDatabase(da.string());
+    std::error_code ec;
+    std::filesystem::create_directories(a.parent_path(), ec); // a failure shows itself with the file
     creaArchivio(a, formato);
     try {
         Workspace ws;
@@ -50,6 +67,7 @@ void converti(const std::filesystem::path& da, const std::filesystem::path& a, F
                                 out)
                 << " righe.\n";
         ws.CommitTrans();
+        diNonCopiate(*origine, out);
     } catch (const Guasto&) {
         eliminaArchivio(a);
         throw;

@@ -105,8 +105,6 @@ public:
         return kFatto;
     }
     int operator()(const Converti& c) {
-        std::error_code ec;
-        std::filesystem::create_directories(c.a, ec);
         converti(percorso(c.da), percorso(c.a), c.access ? Formato::Access : Formato::Sqlite, out_);
         return kFatto;
     }

@@ -7,10 +7,12 @@
 #include "data/jet/testo.h"
 #include "data/jet/valore_lungo.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <sstream>
 
 namespace lumigrafo::prova {
 
@@ -118,6 +120,15 @@ std::string mdbExport(const std::string& file, const std::string& tabella) {
     if (tubo)
         ::pclose(tubo);
     return uscita;
+}
+
+std::vector<std::string> righeOrdinate(const std::string& testo) {
+    std::istringstream righe(testo);
+    std::vector<std::string> v;
+    for (std::string riga; std::getline(righe, riga);)
+        v.push_back(riga);
+    std::sort(v.begin(), v.end());
+    return v;
 }
 
 } // namespace lumigrafo::prova

@@ -3,6 +3,7 @@
 #include "data/jet/pagine.h"
 
 #include <string>
+#include <vector>
 
 namespace lumigrafo::prova {
 
@@ -11,5 +12,8 @@ namespace lumigrafo::prova {
 
 /// What mdb-export itself prints; nothing where it isn't installed or fails.
 [[nodiscard]] std::string mdbExport(const std::string& file, const std::string& tabella);
+
+/// The lines of either, sorted: mdb-export prints moved rows where they lie.
+[[nodiscard]] std::vector<std::string> righeOrdinate(const std::string& testo);
 
 } // namespace lumigrafo::prova
