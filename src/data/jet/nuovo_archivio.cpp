@@ -18,7 +18,8 @@ namespace lumigrafo::jet {
 
 namespace {
 
-constexpr std::uint32_t kDiritti = 3, kInterrogazioni = 4, kRelazioni = 5, kMappe = 6, kPrimaRadice = 7;
+// Definitions stand on the pages from the catalog on: the fourth and fifth of them are never filled here.
+constexpr std::uint32_t kDiritti = 3, kMappe = 6, kPrimaRadice = 7;
 constexpr std::size_t kByteMappa = 69;
 
 using enum Tipo;

@@ -9,13 +9,11 @@
 #include "tests/data/jet/esporta.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
-#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 namespace lumigrafo::jet {
 namespace {
@@ -184,15 +182,6 @@ TEST(JetIntestazione, RifiutaQuelCheNonDeveToccare) {
     EXPECT_EQ(apre(0, 0, 4096), dao::kFormato);
 }
 
-std::vector<std::string> ordinate(const std::string& testo) {
-    std::istringstream righe(testo);
-    std::vector<std::string> v;
-    for (std::string riga; std::getline(righe, riga);)
-        v.push_back(riga);
-    std::sort(v.begin(), v.end());
-    return v;
-}
-
 TEST(JetArchiviAltrui, StesseRigheDiMdbExportEIndiciInOrdine) {
     const char* cartella = std::getenv("LUMIGRAFO_ARCHIVI_ACCESS");
     if (!cartella)
@@ -206,9 +195,9 @@ TEST(JetArchiviAltrui, StesseRigheDiMdbExportEIndiciInOrdine) {
         for (const VoceCatalogo& tabella : leggiCatalogo(pagine)) {
             if (tabella.sistema)
                 continue;
-            // mdb-export prints moved rows where they lie, so the order differs.
             const std::string altrui = prova::mdbExport(voce.path().string(), tabella.nome);
-            EXPECT_EQ(ordinate(prova::esporta(pagine, tabella.nome)), ordinate(altrui))
+            EXPECT_EQ(prova::righeOrdinate(prova::esporta(pagine, tabella.nome)),
+                      prova::righeOrdinate(altrui))
                 << voce.path() << ' ' << tabella.nome;
             confrontate += altrui.empty() ? 0 : 1;
         }
