@@ -1,9 +1,10 @@
 // A cash side in a hurry, for tests that work on an archive at the same time: a process of its own that adds,
 // changes and cancels orders at a steady rate until it gets SIGTERM, and then ends with 0.
 //
-//     lum_cassa_agitata ARCHIVE-FILE BUSINESS-DATE WRITES-A-SECOND SEED
+//     lum_cassa_agitata ARCHIVE-FILE BUSINESS-DATE WRITES-A-SECOND SEED LETTER
 //
-// Each write is told before it is begun and when it is committed:
+// Its orders have the letter or one of the two behind it. Each write is told before it is begun and when it
+// is committed:
 //     inizia|nuovo|A|12|1=3,2=1     an order with its categories and pieces
 //     inizia|cambia|A|12|1=5        the pieces of a category that is still open, and the highlight
 //     inizia|annulla|A|12|          the order leaves the queue, its receipt is cancelled
@@ -31,8 +32,8 @@ struct Ordine {
 
 class CassaAgitata {
 public:
-    CassaAgitata(const std::string& file, const std::string& data, unsigned seme)
-        : archivio_(file), caso_(seme) {
+    CassaAgitata(const std::string& file, const std::string& data, unsigned seme, char lettera)
+        : archivio_(file), caso_(seme), lettera_(lettera) {
         archivio_.dataCompetenza = data;
     }
 
@@ -54,7 +55,7 @@ private:
     }
 
     void aggiunge() {
-        Ordine o{std::string(1, static_cast<char>('A' + caso_() % 3)), ++numero_, {}};
+        Ordine o{std::string(1, static_cast<char>(lettera_ + caso_() % 3)), ++numero_, {}};
         const int prima = 1 + static_cast<int>(caso_() % 3);
         o.categorie.emplace_back(prima, 1 + caso_() % 5);
         if (caso_() % 3 == 0)
@@ -63,7 +64,8 @@ private:
         for (const auto& [codice, pezzi] : o.categorie)
             cosa += std::to_string(codice) + "=" + std::to_string(pezzi) + ",";
         di("inizia", cosa);
-        archivio_.ordine(o.sigla, o.numero, o.categorie, caso_() % 4 == 0);
+        const bool evidenzia = caso_() % 4 == 0;
+        finoInFondo([&] { archivio_.ordine(o.sigla, o.numero, o.categorie, evidenzia); });
         di("fatto", cosa);
         vivi_.push_back(std::move(o));
     }
@@ -74,8 +76,11 @@ private:
         const std::string pezzi = std::to_string(1 + caso_() % 90);
         const std::string cosa = "cambia|" + chiave(o) + "|" + codice + "=" + pezzi + ",";
         di("inizia", cosa);
-        archivio_.esegui("UPDATE Lumigrafo SET Pezzi" + codice + " = " + pezzi +
-                         ", Evidenzia = -1 - Evidenzia WHERE Categoria" + codice + " <> 0 AND " + dove(o));
+        finoInFondo([&] {
+            archivio_.esegui("UPDATE Lumigrafo SET Pezzi" + codice + " = " + pezzi +
+                             ", Evidenzia = -1 - Evidenzia WHERE Categoria" + codice + " <> 0 AND " +
+                             dove(o));
+        });
         di(archivio_.leggi("SELECT changes()") == "1" ? "fatto" : "nulla", cosa);
     }
 
@@ -85,12 +90,30 @@ private:
         vivi_.erase(vivi_.begin() + i);
         const std::string cosa = "annulla|" + chiave(o) + "|";
         di("inizia", cosa);
-        archivio_.esegui("BEGIN IMMEDIATE");
-        archivio_.esegui("DELETE FROM Lumigrafo WHERE " + dove(o));
-        const bool tolto = archivio_.leggi("SELECT changes()") == "1";
-        archivio_.esegui("UPDATE ScontriniEmessi SET Stornato = -1 WHERE " + dove(o));
-        archivio_.esegui("COMMIT");
+        bool tolto = false;
+        finoInFondo([&] {
+            archivio_.esegui("BEGIN IMMEDIATE");
+            archivio_.esegui("DELETE FROM Lumigrafo WHERE " + dove(o));
+            tolto = archivio_.leggi("SELECT changes()") == "1";
+            archivio_.esegui("UPDATE ScontriniEmessi SET Stornato = -1 WHERE " + dove(o));
+            archivio_.esegui("COMMIT");
+        });
         di(tolto ? "fatto" : "nulla", cosa);
+    }
+
+    /// What ran into another station's lock begins anew, for a while.
+    template <typename Lavoro>
+    void finoInFondo(Lavoro&& lavoro) {
+        const auto fine = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+        for (;;) {
+            try {
+                return lavoro();
+            } catch (const std::runtime_error&) {
+                if (std::chrono::steady_clock::now() > fine)
+                    throw;
+                archivio_.annulla();
+            }
+        }
     }
 
     static std::string chiave(const Ordine& o) { return o.sigla + "|" + std::to_string(o.numero); }
@@ -100,6 +123,7 @@ private:
 
     ArchivioProva archivio_;
     std::mt19937 caso_;
+    char lettera_;
     std::vector<Ordine> vivi_;
     int numero_ = 0;
 };
@@ -108,7 +132,7 @@ private:
 
 int main(int, char** argv) {
     std::signal(SIGTERM, [](int) { basta = 1; });
-    CassaAgitata cassa(argv[1], argv[2], static_cast<unsigned>(std::stoul(argv[4])));
+    CassaAgitata cassa(argv[1], argv[2], static_cast<unsigned>(std::stoul(argv[4])), *argv[5]);
     const auto passo = std::chrono::microseconds(1'000'000 / std::stoi(argv[3]));
     for (auto prossima = std::chrono::steady_clock::now(); !basta; prossima += passo) {
         std::this_thread::sleep_until(prossima);

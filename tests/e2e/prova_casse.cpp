@@ -1,11 +1,11 @@
 #include "announce/log.h"
 #include "links/server_casse.h"
 #include "settings/ini/ini.h"
-#include "tests/e2e/durata.h"
 #include "tests/e2e/processo.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/cliente_nudo.h"
+#include "tests/sostegno/durata.h"
 
 #include <algorithm>
 #include <atomic>

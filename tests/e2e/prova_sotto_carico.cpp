@@ -1,7 +1,7 @@
-#include "tests/e2e/durata.h"
 #include "tests/e2e/modello.h"
 #include "tests/e2e/registro.h"
 #include "tests/e2e/stazione.h"
+#include "tests/sostegno/durata.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -126,7 +126,7 @@ protected:
 
 TEST_F(SottoCarico, chiamaMentreUnAltroProcessoScrive) {
     ASSERT_TRUE(s->accendi());
-    Registro registro(s->cartella.percorso() / "archivio.mdb", s->archivio.dataCompetenza, 40, kSeme);
+    Registro registro(s->cartella.percorso() / "archivio.mdb", s->archivio.dataCompetenza, 1, 40, kSeme);
     int gesti = 0;
     auto prossimaScansione = std::chrono::steady_clock::now();
     const auto fine = prossimaScansione + durataCarico();

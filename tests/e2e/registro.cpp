@@ -23,18 +23,27 @@ std::string dove(const std::string& cella) {
 
 } // namespace
 
-Registro::Registro(const std::filesystem::path& archivio, const std::string& data, int scrittureAlSecondo,
-                   unsigned seme)
-    : cassa_({CASSA_AGITATA, archivio.string(), data, std::to_string(scrittureAlSecondo),
-              std::to_string(seme)}) {}
+Registro::Registro(const std::filesystem::path& archivio, const std::string& data, int casse,
+                   int scrittureAlSecondo, unsigned seme) {
+    for (int i = 0; i < casse; ++i) {
+        const std::vector<std::string> comando{CASSA_AGITATA,
+                                               archivio.string(),
+                                               data,
+                                               std::to_string(scrittureAlSecondo / casse),
+                                               std::to_string(seme + static_cast<unsigned>(i)),
+                                               std::string(1, static_cast<char>('A' + 3 * i))};
+        casse_.emplace_back(comando);
+    }
+}
 
 void Registro::aggiorna() {
-    while (const auto riga = cassa_.riga(0ms))
-        annota(*riga);
+    for (Processo& cassa : casse_)
+        while (const auto riga = cassa.riga(0ms))
+            annota(*riga);
 }
 
 bool Registro::attendi() {
-    const auto riga = cassa_.riga(10s);
+    const auto riga = casse_.front().riga(10s);
     if (riga)
         annota(*riga);
     aggiorna();
@@ -43,10 +52,15 @@ bool Registro::attendi() {
 
 bool Registro::ferma() {
     fine_ = std::chrono::steady_clock::now();
-    cassa_.segnala(SIGTERM);
-    for (const std::string& riga : campi(cassa_.resto(), '\n'))
-        annota(riga);
-    return cassa_.fine(10s) == 0;
+    for (const Processo& cassa : casse_)
+        cassa.segnala(SIGTERM);
+    bool bene = true;
+    for (Processo& cassa : casse_) {
+        for (const std::string& riga : campi(cassa.resto(), '\n'))
+            annota(riga);
+        bene = cassa.fine(10s) == 0 && bene;
+    }
+    return bene;
 }
 
 void Registro::annota(const std::string& riga) {
@@ -81,6 +95,16 @@ void Registro::chiamato(int quadrante, const std::string& cella) {
     ++chiamate_;
 }
 
+bool Registro::ripristina(int quadrante, const std::string& cella) {
+    aggiorna();
+    Ordine& ordine = ordini_[cella];
+    if (ordine.annullo != Fase::No || ordine.chiamate.erase(quadrante) == 0)
+        return false;
+    ordine.ripristinato = true;
+    ordine.pezzi[quadrante + 1] = "0";
+    return true;
+}
+
 bool Registro::annullato(const std::string& cella) const {
     const auto ordine = ordini_.find(cella);
     return ordine != ordini_.end() && ordine->second.annullo != Fase::No;
@@ -92,7 +116,7 @@ Registro::Prima Registro::primaDiRicostruire() {
     for (const auto& [cella, ordine] : ordini_)
         for (const auto& [categoria, pezzi] : ordine.pezzi) {
             const int q = categoria - 1;
-            if (ordine.annullo == Fase::Fatto || ordine.chiamate.contains(q))
+            if ((ordine.annullo == Fase::Fatto && !ordine.ripristinato) || ordine.chiamate.contains(q))
                 prima.mancano[q].insert(cella);
             else if (ordine.nuovo == Fase::Fatto)
                 prima.devono[q].insert(cella);
@@ -126,14 +150,15 @@ std::string Registro::controllaArchivio(ArchivioProva& archivio) const {
     for (const auto& [cella, ordine] : ordini_)
         if (const std::string g = controllaOrdine(archivio, cella, ordine); !g.empty())
             guasti += cella + ": " + g + "\n";
-    const std::string intero = archivio.leggi("PRAGMA integrity_check");
-    return intero == "ok" ? guasti : guasti + intero;
+    return guasti + archivio.discordanze();
 }
 
 std::string Registro::controllaOrdine(ArchivioProva& archivio, const std::string& cella,
                                       const Ordine& ordine) const {
     std::string guasti;
-    bool servito = false, incerto = false;
+    bool servito = ordine.ripristinato, incerto = false;
+    if (ordine.ripristinato && ordine.annullo != Fase::No)
+        return {}; // whichever came last
     for (const auto& [q, chiamata] : ordine.chiamate) {
         servito |= chiamata.annulloDopo == Fase::No;
         incerto |= chiamata.annulloDopo != Fase::No && chiamata.annulloPrima != Fase::Fatto;
@@ -151,8 +176,8 @@ std::string Registro::controllaOrdine(ArchivioProva& archivio, const std::string
         const bool chiamata = ordine.chiamate.contains(categoria - 1);
         const std::string c = std::to_string(categoria);
         const std::string attesi = chiamata ? "0|0" : "-1|" + pezzi;
-        if (inCoda && archivio.leggi("SELECT Categoria" + c + ", Pezzi" + c + " FROM Lumigrafo WHERE " +
-                                     dove(cella)) != attesi)
+        if (inCoda && archivio.leggi("SELECT Categoria" + c + ", ifnull(Pezzi" + c +
+                                     ", 0) FROM Lumigrafo WHERE " + dove(cella)) != attesi)
             guasti += "category " + c + " isn't " + attesi + "; ";
         const std::string riga = archivio.leggi("SELECT SERVITO FROM DettaglioLumigrafo WHERE " +
                                                 dove(cella) + " AND CATEGORIA = " + c);

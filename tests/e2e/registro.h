@@ -4,6 +4,7 @@
 #include "tests/sostegno/archivio_prova.h"
 
 #include <chrono>
+#include <deque>
 #include <map>
 #include <set>
 #include <string>
@@ -11,19 +12,19 @@
 
 namespace lumigrafo::prova {
 
-/// What the hurried cash side and the console did to each order, as far as either is known to have begun or
+/// What the hurried cash sides and the console did to each order, as far as either is known to have begun or
 /// ended; tells from it what a grid may show and what the archive must hold. Quadrant q shows category q + 1.
 class Registro {
 public:
-    /// Starts the cash side on the archive.
-    Registro(const std::filesystem::path& archivio, const std::string& data, int scrittureAlSecondo,
-             unsigned seme);
+    /// Starts that many cash sides on the archive, each with letters of its own.
+    Registro(const std::filesystem::path& archivio, const std::string& data, int casse,
+             int scrittureAlSecondo, unsigned seme);
 
-    /// Takes in what the cash side has told since.
+    /// Takes in what the cash sides have told since.
     void aggiorna();
-    /// The same, from its next write on at the least. False where it writes no more.
+    /// The same, from the next write of the first one on at the least. False where it writes no more.
     [[nodiscard]] bool attendi();
-    /// Ends the cash side in good order and takes in the rest. False where it failed.
+    /// Ends the cash sides in good order and takes in the rest. False where it failed.
     [[nodiscard]] bool ferma();
 
     /// The console is about to call a cell. For callers who know it beforehand: a call that comes too late
@@ -31,6 +32,9 @@ public:
     void chiama(int quadrante, const std::string& cella);
     /// The call has come to its end.
     void chiamato(int quadrante, const std::string& cella);
+    /// The console is about to restore an order in the quadrant where it called it. False, and nothing is
+    /// noted, where it isn't called there or a cash side cancels it.
+    [[nodiscard]] bool ripristina(int quadrante, const std::string& cella);
     /// The cash side has at least begun to cancel the order.
     [[nodiscard]] bool annullato(const std::string& cella) const;
 
@@ -61,12 +65,13 @@ private:
             Fase annulloPrima = Fase::No, annulloDopo = Fase::No;
         };
         std::map<int, Chiamata> chiamate;
+        bool ripristinato = false;
     };
     void annota(const std::string& riga);
     [[nodiscard]] std::string controllaOrdine(ArchivioProva& archivio, const std::string& cella,
                                               const Ordine& ordine) const;
 
-    Processo cassa_;
+    std::deque<Processo> casse_;
     std::map<std::string, Ordine> ordini_; ///< by the text of their cell
     int scritture_ = 0, chiamate_ = 0;
     std::chrono::steady_clock::time_point inizio_ = std::chrono::steady_clock::now(), fine_{};
