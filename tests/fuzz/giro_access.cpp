@@ -63,7 +63,7 @@ std::string campione() {
                          i % 5 > 1 ? scriviDato(c[2], 46000.0 + i) : std::nullopt,
                          i % 2 ? std::optional(std::string()) : std::nullopt, scriviDato(c[4], 1.5 * i)}));
     for (std::size_t i = 0; i < righe.size(); i += 2)
-        t.aggiorna(righe[i], {{1, scriviDato(c[1], std::to_string(i) + std::string(100, 'e'))}});
+        t.aggiorna(righe[i], {{1, scriviDato(c[1], std::to_string(i) + " caffè" + std::string(90, 'e'))}});
     for (std::size_t i = 0; i < righe.size(); i += 9)
         t.elimina(righe[i]);
     pagine.registra();

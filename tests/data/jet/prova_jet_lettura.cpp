@@ -3,6 +3,7 @@
 #include "data/jet/catalogo.h"
 #include "data/jet/chiave.h"
 #include "data/jet/dato.h"
+#include "data/jet/ordinamento.h"
 #include "data/jet/testo.h"
 #include "data/jet/verifica.h"
 #include "tests/data/attesa_guasto.h"
@@ -67,6 +68,15 @@ TEST(JetChiavi, Testi) {
             EXPECT_EQ(esa(parteDiChiave(c, false, byte)), "80" + std::string(caso.decrescente)) << caso.testo;
         }
     EXPECT_EQ(guastoDi([&] { (void)parteDiChiave(c, true, scriviTesto("Ω", false)); }), dao::kConversione);
+}
+
+TEST(JetChiavi, TestiSenzaIndice) {
+    const char* const crescenti[] = {"", "9", "a", "A b", "àb", "abc", "caffè", "caffettiera", "ß", "Ω", "ω"};
+    for (std::size_t i = 0; i + 1 < std::size(crescenti); ++i) {
+        EXPECT_LT(confronta(crescenti[i], crescenti[i + 1]), 0) << crescenti[i];
+        EXPECT_GT(confronta(crescenti[i + 1], crescenti[i]), 0) << crescenti[i];
+    }
+    EXPECT_EQ(confronta("Perché no?", "PERCHÉ NO?  "), 0);
 }
 
 TEST(JetChiavi, GliAltriTipiSiOrdinanoComeIValori) {
