@@ -57,7 +57,7 @@ std::string campione() {
     jet::Tabella t(pagine, leggiCatalogo(pagine).back().definizione);
     const auto& c = t.definizione().colonne;
     std::vector<jet::Posizione> righe;
-    for (int i = 0; i < 48; ++i)
+    for (int i = 0; i < 80; ++i)
         righe.push_back(
             t.inserisci({std::nullopt, scriviDato(c[1], std::string(static_cast<std::size_t>(i % 7), 'a')),
                          i % 5 > 1 ? scriviDato(c[2], 46000.0 + i) : std::nullopt,

@@ -68,6 +68,27 @@ private:
             c.nome = nome();
         std::stable_sort(d_.colonne.begin(), d_.colonne.end(),
                          [](const Colonna& a, const Colonna& b) { return a.numero < b.numero; });
+        ognunaAlSuoPosto();
+    }
+
+    /// What is written to one column must not change another.
+    void ognunaAlSuoPosto() const {
+        std::vector<std::pair<std::size_t, std::size_t>> posti; // from, to
+        constexpr std::size_t kDietro = 0x20000;                // where no fixed column reaches
+        for (std::size_t i = 0; i < d_.colonne.size(); ++i) {
+            const Colonna& c = d_.colonne[i];
+            if (i > 0 && c.numero == d_.colonne[i - 1].numero)
+                throw danno(d_.pagina, "due colonne hanno lo stesso numero");
+            const std::size_t lunga = byteDi(c.tipo) ? byteDi(c.tipo) : c.lunghezza;
+            if (c.tipo != Tipo::Booleano && c.fissa)
+                posti.emplace_back(c.postoFisso, c.postoFisso + lunga);
+            else if (c.tipo != Tipo::Booleano)
+                posti.emplace_back(kDietro + c.indiceVariabile, kDietro + c.indiceVariabile + 1);
+        }
+        std::sort(posti.begin(), posti.end());
+        const auto sopra = [](const auto& a, const auto& b) { return a.second > b.first; };
+        if (std::adjacent_find(posti.begin(), posti.end(), sopra) != posti.end())
+            throw danno(d_.pagina, "due colonne stanno nello stesso posto");
     }
 
     Colonna colonna(Vista v) const {
