@@ -43,7 +43,10 @@ std::string esadecimale(const std::string& byte) {
 
 std::string conCifre(double n, int cifre) {
     std::array<char, 64> t{};
-    std::snprintf(t.data(), t.size(), "%.*e", cifre, n);
+    if (n == std::floor(n) && std::abs(n) < 1e9)
+        std::snprintf(t.data(), t.size(), "%.0f", n);
+    else
+        std::snprintf(t.data(), t.size(), "%.*e", cifre, n);
     return t.data();
 }
 
