@@ -5,6 +5,7 @@
 #include "data/errori_dao.h"
 #include "data/guasto_sqlite.h"
 #include "data/lessico.h"
+#include "data/nullo_voluto.h"
 #include "data/tabella_virtuale.h"
 
 #include <algorithm>
@@ -203,11 +204,12 @@ jet::Tabella::Modifiche modifiche(const jet::Definizione& d, const RegoleAccess&
     return m;
 }
 
-/// SQLite gives a null for a column that the statement leaves out: no telling it from a null that is meant.
+/// SQLite gives a null for a column that the statement leaves out too; one that is meant says so where a
+/// parameter brings it.
 jet::Campi nuova(const jet::Definizione& d, const RegoleAccess& regole, sqlite3_value** valori) {
     jet::Campi campi;
     for (std::size_t i = 0; i < d.colonne.size(); ++i) {
-        const bool manca = sqlite3_value_type(valori[i]) == SQLITE_NULL;
+        const bool manca = sqlite3_value_type(valori[i]) == SQLITE_NULL && !nulloVoluto(valori[i]);
         campi.push_back(manca ? regole.predefinito(i) : byteDi(d.colonne[i], valori[i]));
         regole.verifica(i, campi.back());
     }

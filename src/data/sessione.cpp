@@ -2,6 +2,7 @@
 
 #include "data/jet/pazienza.h"
 #include "data/lessico.h"
+#include "data/nullo_voluto.h"
 #include "data/recordset.h"
 #include "platform/conversioni.h"
 
@@ -57,7 +58,7 @@ Istruzione::~Istruzione() {
 void Istruzione::lega(int parametro, const Valore& valore) {
     int esito = SQLITE_OK;
     if (valore.nullo())
-        esito = sqlite3_bind_null(stmt(), parametro);
+        esito = legaNullo(stmt(), parametro);
     else if (valore.intero())
         esito = sqlite3_bind_int64(stmt(), parametro, valore.aIntero64());
     else if (valore.doppio())

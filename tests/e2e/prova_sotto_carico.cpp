@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <random>
 #include <sstream>
+#include <thread>
 
 namespace lumigrafo::prova {
 namespace {
@@ -98,6 +99,7 @@ protected:
     std::string sbagliata(std::size_t q, Registro& registro) {
         quiete();
         aggiorna();
+        std::this_thread::sleep_for(1s); // who touches earlier means what the grid showed before
         const auto attesi = aperti(q);
         for (std::size_t i = 0; i < std::min<std::size_t>(attesi.size(), 6); ++i) {
             s->clic(static_cast<int>(q), 0, static_cast<int>(i % 3));
