@@ -1,5 +1,5 @@
 #include "links/json_bag.h"
-#include "tests/links/guasto_atteso.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <functional>
 #include <gmock/gmock.h>

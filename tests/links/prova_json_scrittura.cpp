@@ -63,6 +63,20 @@ TEST(JsonScrittura, LongTextsAreWhole) {
         }
 }
 
+/// Plain characters go over in eights, sevens and ones.
+TEST(JsonScrittura, StretchesOfAnyLengthAreWholeAndComeBack) {
+    const std::string piani = "abcdefghijklmnopqrstuvwxyz";
+    for (const std::string pezzo : {"è", "\"", "\x01", "🍕"})
+        for (std::size_t prima = 0; prima < piani.size(); ++prima)
+            for (std::size_t dopo = 0; dopo < piani.size(); ++dopo) {
+                const std::string a = piani.substr(0, prima), b = piani.substr(0, dopo);
+                ASSERT_EQ(stringa(a + pezzo + b), a + stringa(pezzo) + b);
+                JsonBag bag;
+                bag.JSON("[\"" + a + stringa(pezzo) + b + "\"]");
+                ASSERT_EQ(std::get<std::string>(bag.Item(1)), a + pezzo + b);
+            }
+}
+
 TEST(JsonScrittura, Indented) {
     JsonBag bag;
     bag.Indented = true;
