@@ -1,4 +1,5 @@
 #include "tests/announce/banco_voce.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -54,17 +55,9 @@ TEST_F(Log, ALineThatCannotBeWrittenIsAFailure) {
     for (const char* nome : {"loglumigrafo_09032024_14.txt", kFileLogConnessioni, kFileLogVoce})
         std::filesystem::create_directory(cartella.percorso() / nome);
     RegistroLog altrove(cartella.percorso() / "manca", orologio);
-    const auto numero = [](auto scrivi, RegistroLog& l) {
-        try {
-            scrivi(l);
-        } catch (const Guasto& guasto) {
-            return guasto.numero();
-        }
-        return 0;
-    };
     for (const auto scrivi : scritture) {
-        EXPECT_EQ(numero(scrivi, log), guasti::kAccesso);
-        EXPECT_EQ(numero(scrivi, altrove), guasti::kPercorso);
+        EXPECT_EQ(fallimento([&] { scrivi(log); }).first, guasti::kAccesso);
+        EXPECT_EQ(fallimento([&] { scrivi(altrove); }).first, guasti::kPercorso);
     }
 }
 

@@ -2,6 +2,7 @@
 #include "platform/finti/finti.h"
 #include "platform/guasto.h"
 #include "tests/boards/banco_videata.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <algorithm>
 #include <chrono>
@@ -64,12 +65,7 @@ TEST(Lampeggio, unDoppioTroppoGrandeFermaAlPrimoScatto) {
     std::int16_t numero = 16384;
     Lampeggio lampeggio(timers, Lampeggio::Forma::Diritta, numero, [](bool) {});
     lampeggio.avvia();
-    try {
-        timers.avanza(300ms);
-        FAIL() << "no overflow";
-    } catch (const Guasto& g) {
-        EXPECT_EQ(g.numero(), guasti::kSovraccarico);
-    }
+    EXPECT_EQ(fallimento([&] { timers.avanza(300ms); }).first, guasti::kSovraccarico);
     numero = 16383;
     EXPECT_NO_THROW(timers.avanza(300ms));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/sostegno/cartella_temporanea.h"
+
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -17,25 +19,11 @@
 namespace lumigrafo::prova {
 
 /// A folder of the test's own, gone with it.
-class Cartella {
-public:
-    Cartella() {
-        std::string modello = (std::filesystem::temp_directory_path() / "lumigrafo-XXXXXX").string();
-        if (!::mkdtemp(modello.data()))
-            throw std::runtime_error("mkdtemp");
-        percorso_ = modello;
-    }
-    ~Cartella() { std::filesystem::remove_all(percorso_); }
-    Cartella(const Cartella&) = delete;
-    Cartella& operator=(const Cartella&) = delete;
-    [[nodiscard]] const std::filesystem::path& percorso() const { return percorso_; }
-    [[nodiscard]] std::filesystem::path operator/(const char* nome) const { return percorso_ / nome; }
+struct Cartella : CartellaTemporanea {
+    [[nodiscard]] std::filesystem::path operator/(const char* nome) const { return percorso() / nome; }
     [[nodiscard]] long quantiFile() const {
-        return std::distance(std::filesystem::directory_iterator(percorso_), {});
+        return std::distance(std::filesystem::directory_iterator(percorso()), {});
     }
-
-private:
-    std::filesystem::path percorso_;
 };
 
 inline void scrivi(const std::filesystem::path& file, const std::string& testo) {

@@ -1,6 +1,7 @@
 #include "platform/file.h"
 #include "platform/guasto.h"
 #include "tests/platform/ambiente_prova.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -12,19 +13,10 @@ namespace {
 namespace fs = std::filesystem;
 using prova::Cartella;
 using prova::Cenno;
+using prova::fallimento;
 using prova::Figlio;
 using prova::leggi;
 using prova::scrivi;
-
-template <typename Azione>
-int guastoDi(Azione&& azione) {
-    try {
-        azione();
-        return 0;
-    } catch (const Guasto& g) {
-        return g.numero();
-    }
-}
 
 TEST(SostituisciFile, conservaPermessiECollegamenti) {
     const Cartella c;
@@ -117,8 +109,8 @@ TEST(FileEsclusivo, tieneFuoriGliAltriFinoAllaMorte) {
         return 0;
     });
     preso.aspetta();
-    EXPECT_EQ(guastoDi(apri), guasti::kPermessoNegato);
-    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(file); }), guasti::kPermessoNegato);
+    EXPECT_EQ(fallimento(apri).first, guasti::kPermessoNegato);
+    EXPECT_EQ(fallimento([&] { eliminaSeLibero(file); }).first, guasti::kPermessoNegato);
     EXPECT_TRUE(fs::exists(file));
     altro.uccidi();
 
@@ -126,18 +118,18 @@ TEST(FileEsclusivo, tieneFuoriGliAltriFinoAllaMorte) {
     {
         const FileEsclusivo mio(file);
         EXPECT_EQ(leggi(file), "");
-        EXPECT_EQ(guastoDi(apri), guasti::kPermessoNegato); // from the same process too
+        EXPECT_EQ(fallimento(apri).first, guasti::kPermessoNegato); // from the same process too
     }
     eliminaSeLibero(file);
     EXPECT_FALSE(fs::exists(file));
-    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(file); }), guasti::kFileNonTrovato);
+    EXPECT_EQ(fallimento([&] { eliminaSeLibero(file); }).first, guasti::kFileNonTrovato);
 }
 
 TEST(FileEsclusivo, guastiDelSistemaNonSonoAttese) {
     const Cartella c;
-    EXPECT_EQ(guastoDi([&] { FileEsclusivo f(c / "nessuna" / "a.txt"); }), guasti::kPercorso);
-    EXPECT_EQ(guastoDi([&] { FileEsclusivo f(c.percorso()); }), guasti::kAccesso);
-    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(c.percorso()); }), guasti::kAccesso);
+    EXPECT_EQ(fallimento([&] { FileEsclusivo f(c / "nessuna" / "a.txt"); }).first, guasti::kPercorso);
+    EXPECT_EQ(fallimento([&] { FileEsclusivo f(c.percorso()); }).first, guasti::kAccesso);
+    EXPECT_EQ(fallimento([&] { eliminaSeLibero(c.percorso()); }).first, guasti::kAccesso);
 }
 
 /// A holder that deletes its file while it lets go must not leave two holders of two files of one name.

@@ -3,6 +3,7 @@
 #include "platform/linux/processi.h"
 #include "settings/processo.h"
 #include "tests/platform/ambiente_prova.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <algorithm>
 #include <csignal>
@@ -121,14 +122,10 @@ TEST(Avvia, guastoSeNonPuo) {
     prova::scrivi(c / "testo", "no program");
     ProcessiLinux processi;
     for (const fs::path& p : {fs::path(c / "assente"), fs::path(c / "testo"), c.percorso() / "nessuna" / "a",
-                              fs::path("lumigrafo-nessun-programma"), fs::path()}) {
-        try {
-            processi.avvia(p, {}, StileFinestra::Normale);
-            ADD_FAILURE() << p;
-        } catch (const Guasto& g) {
-            EXPECT_EQ(g.numero(), guasti::kFileNonTrovato) << p;
-        }
-    }
+                              fs::path("lumigrafo-nessun-programma"), fs::path()})
+        EXPECT_EQ(prova::fallimento([&] { processi.avvia(p, {}, StileFinestra::Normale); }).first,
+                  guasti::kFileNonTrovato)
+            << p;
 }
 
 } // namespace
