@@ -19,87 +19,101 @@ using testing::IsEmpty;
 
 constexpr Rettangolo kPrimario{0, 0, 28800, 16200};
 
-/// A desktop, a console on it, and where the board must go; nothing: the question comes up.
-struct Caso {
-    const char* nome;
-    std::vector<Schermo> schermi;
-    Rettangolo console;
-    std::optional<Rettangolo> atteso;
-};
+constexpr Schermo kConsole{kPrimario, kPrimario, true};
 
-class Posizionamento : public testing::TestWithParam<Caso> {};
-
-TEST_P(Posizionamento, FindsTheMonitorBesideTheConsole) {
+/// The outline on a desktop, with the operator's answers.
+class SagomaProva : public testing::Test {
+protected:
     CartellaTemporanea cartella;
-    const Ambiente ambiente{cartella.percorso(), "", ""};
+    Ambiente ambiente{cartella.percorso(), "", ""};
+    FileIni ini{ambiente.file(kFileImpostazioni)};
     Diario diario;
     PompaFinta pompa;
     AvvisiFinti avvisi;
     MessaggiFinti messaggi;
-    DesktopFinto desktop(&diario);
+    DesktopFinto desktop{&diario};
     SchermiFinti schermi;
-    schermi.schermi = GetParam().schermi;
-    Sagoma sagoma({ambiente, pompa, avvisi, messaggi, schermi, desktop}, GetParam().console);
-    sagoma.attiva();
-    const FileIni ini(ambiente.file(kFileImpostazioni));
-    const auto leggi = [&ini](const char* chiave) { return ini.LeggiIni(kSezioneForm, chiave, "-"); };
-    if (GetParam().atteso) {
-        const Rettangolo& r = *GetParam().atteso;
-        EXPECT_EQ(leggi("Top"), std::to_string(static_cast<int>(r.top.v)));
-        EXPECT_EQ(leggi("Left"), std::to_string(static_cast<int>(r.left.v)));
-        EXPECT_EQ(leggi("Width"), std::to_string(static_cast<int>(r.width.v)));
-        EXPECT_EQ(leggi("Height"), std::to_string(static_cast<int>(r.height.v)));
-        EXPECT_EQ(sagoma.posto(), r);
-        EXPECT_THAT(messaggi.mostrati,
-                    ElementsAre(std::pair<std::string, std::int16_t>("Posizionamento avvenuto", 3)));
-        return;
+
+    void SetUp() override { schermi.schermi = {kConsole}; }
+    /// Where it stands in the end.
+    Rettangolo attiva(const Rettangolo& console = kPrimario) {
+        Sagoma sagoma({ambiente, pompa, avvisi, messaggi, schermi, desktop}, console);
+        sagoma.attiva();
+        return sagoma.posto();
     }
-    EXPECT_EQ(leggi("Left"), "-"); // the old values stay
-    EXPECT_TRUE(monitorDi(schermi, sagoma.posto())) << "the question isn't out of sight";
-    ASSERT_EQ(avvisi.mostrati.size(), 1U);
-    EXPECT_EQ(avvisi.mostrati[0].titolo, "Attenzione");
-    EXPECT_EQ(avvisi.mostrati[0].bottoni, Bottoni::SiNo);
-    EXPECT_THAT(diario, ElementsAre("impostazioni schermo imposchermo.bat"));
-    EXPECT_EQ(leggiFile(ambiente.file("imposchermo.bat")), "control.exe desk.cpl,@0,3\r\n");
+    std::string salvato() const {
+        std::string posto;
+        for (const char* chiave : {"Left", "Top", "Width", "Height"})
+            posto += ini.LeggiIni(kSezioneForm, chiave, "-") + " ";
+        return posto;
+    }
+};
+
+TEST_F(SagomaProva, FindsTheMonitorBesideTheConsole) {
+    struct Caso {
+        const char* nome;
+        Schermo altro;
+        const char* salvato;
+        Schermo console = kConsole;
+    };
+    for (const auto& [nome, altro, atteso, console] : {
+             Caso{"to the right, with a bar at its foot",
+                  {{28800, 0, 19200, 15360}, {28800, 0, 19200, 14760}},
+                  "28800 0 19200 14760 "},
+             Caso{"to the left",
+                  {{-19200, 0, 19200, 15360}, {-19200, 0, 19200, 15360}},
+                  "-19200 0 19200 15360 "},
+             Caso{"with the feet at one height",
+                  {{28800, 5400, 19200, 10800}, {28800, 5400, 19200, 10800}},
+                  "28800 5400 19200 10800 "},
+             // The window system counts from the second monitor's corner, so the console doesn't stand at 0.
+             Caso{"to the left, at the origin",
+                  {{0, 0, 15360, 11520}, {0, 0, 15360, 11520}},
+                  "0 0 15360 11520 ",
+                  {{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true}},
+             Caso{"half as many twips for the same pixels",
+                  {{28800, 0, 28800, 16200}, {28800, 300, 28800, 15900}},
+                  "28800 300 28800 15900 "},
+         }) {
+        SCOPED_TRACE(nome);
+        schermi.schermi = {console, altro};
+        EXPECT_EQ(attiva(console.tutto), altro.lavoro);
+        EXPECT_EQ(salvato(), atteso);
+        EXPECT_EQ(messaggi.mostrati.back(),
+                  (std::pair<std::string, std::int16_t>("Posizionamento avvenuto", 3)));
+    }
+    EXPECT_THAT(avvisi.mostrati, IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Scrivanie, Posizionamento,
-    testing::Values(
-        Caso{"destra",
-             {{kPrimario, kPrimario, true}, {{28800, 0, 19200, 15360}, {28800, 0, 19200, 14760}, false}},
-             kPrimario,
-             Rettangolo{28800, 0, 19200, 14760}},
-        Caso{"sinistra",
-             {{kPrimario, kPrimario, true}, {{-19200, 0, 19200, 15360}, {-19200, 0, 19200, 15360}, false}},
-             kPrimario,
-             Rettangolo{-19200, 0, 19200, 15360}},
-        Caso{
-            "destra_allineato_in_basso",
-            {{kPrimario, kPrimario, true}, {{28800, 5400, 19200, 10800}, {28800, 5400, 19200, 10800}, false}},
-            kPrimario,
-            Rettangolo{28800, 5400, 19200, 10800}},
-        Caso{"in_basso_di_fianco",
-             {{kPrimario, kPrimario, true},
-              {{28800, 16200, 19200, 10800}, {28800, 16200, 19200, 10800}, false}},
-             kPrimario,
-             std::nullopt},
-        // The window system counts from the second monitor's corner, so the console doesn't stand at 0.
-        Caso{"sinistra_dall_origine",
-             {{{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true},
-              {{0, 0, 15360, 11520}, {0, 0, 15360, 11520}, false}},
-             {15360, 0, 28800, 16200},
-             Rettangolo{0, 0, 15360, 11520}},
-        Caso{"sopra",
-             {{kPrimario, kPrimario, true}, {{0, -15360, 19200, 15360}, {0, -15360, 19200, 15360}, false}},
-             kPrimario,
-             std::nullopt},
-        Caso{"nessuno", {{kPrimario, kPrimario, true}}, kPrimario, std::nullopt},
-        Caso{"scala_diversa", // half as many twips for the same pixels
-             {{kPrimario, kPrimario, true}, {{28800, 0, 28800, 16200}, {28800, 300, 28800, 15900}, false}},
-             kPrimario,
-             Rettangolo{28800, 300, 28800, 15900}}),
-    [](const auto& caso) { return caso.param.nome; });
+TEST_F(SagomaProva, AsksWhereNoMonitorIsBeside) {
+    for (const auto& [nome, altro] :
+         {std::pair("none", kConsole),
+          {"above", Schermo{{0, -15360, 19200, 15360}, {0, -15360, 19200, 15360}}},
+          {"below and beside", Schermo{{28800, 16200, 19200, 10800}, {28800, 16200, 19200, 10800}}}}) {
+        SCOPED_TRACE(nome);
+        diario.clear();
+        schermi.schermi = {kConsole};
+        if (!altro.primario)
+            schermi.schermi.push_back(altro);
+        EXPECT_TRUE(monitorDi(schermi, attiva())) << "the question isn't out of sight";
+        EXPECT_EQ(salvato(), "- - - - ") << "the old values stay";
+        EXPECT_EQ(avvisi.mostrati.back().titolo, "Attenzione");
+        EXPECT_EQ(avvisi.mostrati.back().bottoni, Bottoni::SiNo);
+        EXPECT_THAT(diario, ElementsAre("impostazioni schermo imposchermo.bat"));
+        EXPECT_EQ(leggiFile(ambiente.file("imposchermo.bat")), "control.exe desk.cpl,@0,3\r\n");
+    }
+    EXPECT_THAT(messaggi.mostrati, IsEmpty());
+    desktop.capace = false;
+    attiva();
+    EXPECT_EQ(messaggi.mostrati.size(), 1U) << "a machine without display settings says so";
+}
+
+TEST_F(SagomaProva, ANoLeavesEverythingAsItIs) {
+    avvisi.risposte = {Risposta::No};
+    attiva();
+    EXPECT_THAT(diario, IsEmpty());
+    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
+}
 
 TEST(LeggiInfoMonitor, TellsTheMonitorOrThePrimaryOne) {
     SchermiFinti schermi;
@@ -113,36 +127,6 @@ TEST(LeggiInfoMonitor, TellsTheMonitorOrThePrimaryOne) {
     EXPECT_THAT((std::array{m.WorkLeft, m.WorkRight, m.WorkTop, m.WorkBottom, m.WorkHeight, m.WorkWidth}),
                 ElementsAre(28800, 48000, 0, 14760, 14760, 19200));
     EXPECT_EQ(LeggiInfoMonitor(schermi, {90000, 0, 4560, 3030}).hMonitor, 1);
-}
-
-TEST(Sagoma, AMachineWithoutDisplaySettingsSaysSo) {
-    CartellaTemporanea cartella;
-    const Ambiente ambiente{cartella.percorso(), "", ""};
-    PompaFinta pompa;
-    AvvisiFinti avvisi;
-    MessaggiFinti messaggi;
-    DesktopFinto desktop;
-    desktop.capace = false;
-    SchermiFinti schermi;
-    schermi.schermi = {{kPrimario, kPrimario, true}};
-    Sagoma({ambiente, pompa, avvisi, messaggi, schermi, desktop}, kPrimario).attiva();
-    EXPECT_EQ(messaggi.mostrati.size(), 1U);
-}
-
-TEST(Sagoma, ANoLeavesEverythingAsItIs) {
-    CartellaTemporanea cartella;
-    const Ambiente ambiente{cartella.percorso(), "", ""};
-    Diario diario;
-    PompaFinta pompa;
-    AvvisiFinti avvisi;
-    avvisi.risposte = {Risposta::No};
-    MessaggiFinti messaggi;
-    DesktopFinto desktop(&diario);
-    SchermiFinti schermi;
-    schermi.schermi = {{kPrimario, kPrimario, true}};
-    Sagoma({ambiente, pompa, avvisi, messaggi, schermi, desktop}, kPrimario).attiva();
-    EXPECT_THAT(diario, IsEmpty());
-    EXPECT_TRUE(std::filesystem::is_empty(cartella.percorso()));
 }
 
 TEST(Desktop, OutputsThatAreOffOrMirroredGoToTheRight) {

@@ -1,5 +1,6 @@
 #include "platform/guasto.h"
 #include "tests/boards/banco_videata.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <chrono>
 #include <gtest/gtest.h>
@@ -38,25 +39,18 @@ TEST(CaricoVideata, repartiNumeriEMessaggio) {
     EXPECT_EQ(banco.pompa.punti, std::vector<std::string>{"Videata/Load"});
 }
 
-class ChiaveSbagliata : public testing::TestWithParam<const char*> {};
-
-TEST_P(ChiaveSbagliata, fermaIlCarico) {
-    BancoVideata banco;
-    banco.imposta(GetParam(), "grande");
-    try {
-        (void)banco.videata->controlli();
-        FAIL() << "loaded in spite of " << GetParam();
-    } catch (const Guasto& g) {
-        EXPECT_EQ(g.numero(), guasti::kTipo);
+TEST(CaricoVideata, unaChiaveSbagliataLoFerma) {
+    for (const char* chiave :
+         {"FontSizeTesto2", "FontSizeNumeri", "ColoreTesto1", "ColoreSfondo2", "NumeroLampeggi"}) {
+        SCOPED_TRACE(chiave);
+        BancoVideata banco;
+        banco.imposta(chiave, "grande");
+        EXPECT_EQ(fallimento([&] { (void)banco.videata->controlli(); }).first, guasti::kTipo);
+        EXPECT_FALSE(banco.videata->caricata());
+        EXPECT_FALSE(banco.vista.aperta);
+        EXPECT_EQ(banco.postoSalvato(), "- - - - ") << "a board that never came up saves no place";
     }
-    EXPECT_FALSE(banco.videata->caricata());
-    EXPECT_FALSE(banco.vista.aperta);
-    EXPECT_EQ(banco.postoSalvato(), "- - - - ") << "a board that never came up saves no place";
 }
-
-INSTANTIATE_TEST_SUITE_P(Chiavi, ChiaveSbagliata,
-                         testing::Values("FontSizeTesto2", "FontSizeNumeri", "ColoreTesto1", "ColoreSfondo2",
-                                         "NumeroLampeggi"));
 
 TEST(PostoVideata, ripresoUnaVoltaESalvatoAllaFine) {
     BancoVideata banco;
@@ -77,27 +71,6 @@ TEST(PostoVideata, ripresoUnaVoltaESalvatoAllaFine) {
     banco.videata->Mostra();
     EXPECT_EQ(banco.vista.create, 2);
     EXPECT_EQ(banco.vista.posto, kPosto);
-}
-
-TEST(PostoVideata, conSoloAndroidNonSiMuoveMaSiSalva) {
-    BancoVideata banco;
-    banco.console.soloAndroid = true;
-    banco.impostaPosto("150", "300", "9000", "6000");
-    banco.videata->Mostra();
-    EXPECT_TRUE(banco.vista.ridotta);
-    banco.videata->Riduci(false);
-    banco.vista.eventi.attivata();
-    EXPECT_EQ(banco.vista.posizionata, 0);
-    banco.videata->Scarica();
-    EXPECT_EQ(banco.postoSalvato(), "0 0 15120 10395 ");
-}
-
-TEST(PostoVideata, ridottaNonFermaLaVideataNormale) {
-    BancoVideata banco;
-    banco.ambiente.argomenti = "RIDOTTA";
-    banco.videata->Mostra();
-    EXPECT_FALSE(banco.vista.ridotta);
-    EXPECT_EQ(banco.vista.posizionata, 1);
 }
 
 TEST(PostoVideata, unaChiaveSbagliataFermaLAttivazione) {
