@@ -1,6 +1,6 @@
 #include "forms/controlli.h"
-#include "platform/guasto.h"
 #include "tests/forms/dimostrativo.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -23,12 +23,7 @@ TEST(Controlli, SiTrovanoPerNomeEIndice) {
     EXPECT_EQ(c("txtBarCode").NomeCompleto(), "txtBarCode");
     EXPECT_EQ(c.cerca("lblNumero3", 2), nullptr);
     EXPECT_EQ(c.cerca("lblNumero3"), nullptr) << "an array has no element without an index";
-    try {
-        (void)c("lblNumero3", 7);
-        FAIL();
-    } catch (const Guasto& g) {
-        EXPECT_EQ(g.numero(), 340);
-    }
+    EXPECT_EQ(prova::fallimento([&] { (void)c("lblNumero3", 7); }).first, 340);
 }
 
 TEST(Controlli, OsservatoreSaDiOgniCambiamentoVero) {
@@ -65,14 +60,8 @@ TEST(Controlli, ListeSpunteECursoriTengonoSoloCioCheHanno) {
         lista.AddItem("VERTICALE");
         lista.AddItem("ORIZZONTALE");
         lista.ListIndex(1);
-        for (const int fuori : {2, -2}) {
-            try {
-                lista.ListIndex(fuori);
-                ADD_FAILURE() << fuori;
-            } catch (const Guasto& g) {
-                EXPECT_EQ(g.numero(), 380);
-            }
-        }
+        for (const int fuori : {2, -2})
+            EXPECT_EQ(prova::fallimento([&] { lista.ListIndex(fuori); }).first, 380) << fuori;
         EXPECT_EQ(lista.ListIndex(), 1);
         lista.Clear();
         EXPECT_EQ(lista.ListIndex(), -1);

@@ -1,6 +1,6 @@
 #include "forms/qt/figura.h"
-#include "platform/guasto.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
@@ -185,18 +186,11 @@ TEST_F(FileFiguraProva, ChiSeNeVaNonAspetta) {
 
 TEST_F(FileFiguraProva, IlGuastoDiceQualFile) {
     const QString rotta = percorso("rotta.jpg");
-    QFile file(rotta);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("not a picture");
-    file.close();
+    std::ofstream(rotta.toStdString()) << "not a picture";
     for (const auto& [nome, numero] : {std::pair(percorso("manca.jpg"), 53), std::pair(rotta, 481)}) {
-        try {
-            const FileFigura f(nome);
-            ADD_FAILURE() << "read " << nome.toStdString();
-        } catch (const Guasto& g) {
-            EXPECT_EQ(g.numero(), numero);
-            EXPECT_NE(g.descrizione().find(nome.toStdString()), std::string::npos);
-        }
+        const auto [trovato, testo] = prova::fallimento([&, n = nome] { const FileFigura f(n); });
+        EXPECT_EQ(trovato, numero);
+        EXPECT_NE(testo.find(nome.toStdString()), std::string::npos);
     }
 }
 

@@ -9,18 +9,12 @@ namespace {
 
 constexpr Layout kQuadrato{"frm", "", 15000, 15000, kNero, {}};
 
-TEST(Scala, AlDisegnoUnPixelSonoQuindiciTwip) {
-    const Scala s(kQuadrato, 1000, 1000);
-    EXPECT_EQ(s.rettangolo({30, 1020, 5835, 7800}), (RettangoloPixel{2, 68, 389, 520}));
-    EXPECT_EQ(s.carattere(72), 96);
-    EXPECT_EQ(s.carattere(9.75), 13);
-}
-
 TEST(Scala, OgniAsseSegueLaFinestraEIlCarattereIlPiuPiccolo) {
-    const Scala larga(kQuadrato, 3000, 2000);
+    const Scala disegno(kQuadrato, 1000, 1000), larga(kQuadrato, 3000, 2000);
+    EXPECT_EQ(disegno.rettangolo({30, 1020, 5835, 7800}), (RettangoloPixel{2, 68, 389, 520}));
+    EXPECT_EQ(disegno.carattere(9.75), 13);
     EXPECT_EQ(larga.rettangolo({1500, 1500, 1500, 1500}), (RettangoloPixel{300, 200, 300, 200}));
     EXPECT_EQ(larga.carattere(72), 192);
-    EXPECT_EQ(larga.larghezza(150), 30);
     EXPECT_EQ(larga.altezza(150), 20);
     EXPECT_EQ(Scala(kQuadrato, 1, 1).carattere(72), 1) << "type never vanishes";
     EXPECT_EQ(larga.carattere(1e30), 10000) << "nor is it larger than can be drawn";

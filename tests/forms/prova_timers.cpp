@@ -22,57 +22,45 @@ struct TimersProva : testing::Test {
     void traccia(std::chrono::milliseconds quando, const char* segno) {
         a(quando, [this, segno] { ordine += segno; });
     }
-    void finche(char segno) {
+    void finche(const char* segno) {
         ASSERT_TRUE(QTest::qWaitFor([&] { return ordine.find(segno) != std::string::npos; }));
-        t->abilita(false);
     }
 };
 
 TEST_F(TimersProva, SpentoAllInizioEPeriodico) {
     EXPECT_FALSE(t->abilitato());
     traccia(90ms, "|");
-    finche('|');
+    finche("|");
     EXPECT_EQ(ordine, "|");
     t->abilita(true);
-    traccia(150ms, "!");
-    finche('!');
-    EXPECT_EQ(ordine, "|tt!");
+    finche("tt");
 }
 
-TEST_F(TimersProva, RiaccendereNonRicomincia) {
-    t->abilita(true);
-    a(40ms, [&] { t->abilita(true); });
-    traccia(85ms, "|");
-    finche('|');
-    EXPECT_EQ(ordine, "t|");
-}
-
-TEST_F(TimersProva, RiavviareRicomincia) {
-    t->abilita(true);
-    a(40ms, [&] { t->riavvia(); });
-    traccia(85ms, "|");
-    finche('|');
-    EXPECT_EQ(ordine, "|");
-}
-
-TEST_F(TimersProva, UnNuovoPeriodoRicomincia) {
-    t->abilita(true);
-    a(40ms, [&] { t->intervallo(70ms); });
-    traccia(85ms, "|");
-    traccia(150ms, "!");
-    finche('!');
-    EXPECT_EQ(ordine, "|t!");
-    ordine.clear();
-    t->abilita(true);
-    t->intervallo(0ms);
-    EXPECT_TRUE(t->abilitato());
-    traccia(120ms, "|");
-    a(130ms, [&] {
-        t->intervallo(20ms);
-        traccia(30ms, "!");
-    });
-    finche('!');
-    EXPECT_EQ(ordine, "|t!");
+TEST_F(TimersProva, CioCheRicomincia) {
+    struct Caso {
+        const char* nome;
+        void (*azione)(Timer&); ///< in the middle of the first period
+        const char* atteso;     ///< by the time that period and half another would be over
+    };
+    for (const auto& [nome, azione, atteso] :
+         {Caso{"turned on again", [](Timer& x) { x.abilita(true); }, "t|"},
+          Caso{"started anew", [](Timer& x) { x.riavvia(); }, "|"},
+          Caso{"another period", [](Timer& x) { x.intervallo(70ms); }, "|"},
+          Caso{"no period", [](Timer& x) { x.intervallo(0ms); }, "|"}}) {
+        t->intervallo(60ms);
+        t->abilita(false);
+        t->abilita(true);
+        ordine.clear();
+        a(40ms, [&, fai = azione] { fai(*t); });
+        traccia(85ms, "|");
+        finche("|");
+        EXPECT_EQ(ordine, atteso) << nome;
+        EXPECT_TRUE(t->abilitato());
+        if (std::string_view(nome) == "no period")
+            t->intervallo(20ms);
+        ordine.clear();
+        finche("t");
+    }
 }
 
 TEST_F(TimersProva, UnoScattoDentroLAltro) {
