@@ -37,8 +37,11 @@ public:
     void mostra(UtilitaFiscale& u) override { nelleUtilita(u); }
     void mostra(ConfigurazioneFiscale& c) override { nelleImpostazioni(c); }
 
-    /// Receipt 7 of order A 12: two dishes, 16,00 and 3,50.
-    void scontrinoSette() {
+    /// Receipt 7 of order A 12: two dishes, 16,00 and 3,50. Printed by that driver.
+    explicit BancoFiscale(TipoDriver driver = TipoDriver::File, const std::string& indirizzo = "") {
+        impostazioni.driver = driver;
+        impostazioni.indirizzo() = indirizzo;
+        impostazioni.limite = 3;
         archivio.esegui(
             "INSERT INTO ScontriniEmessi (ID_Scontrino, Sigla, Numero, DataCompetenza, Totale) VALUES "
             "(7, 'A', 12, 20260315, 19.5);"

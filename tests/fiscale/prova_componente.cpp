@@ -16,7 +16,6 @@ using testing::HasSubstr;
 
 TEST(Componente, AReceiptBecomesAFileAndItsSecondOneACopy) {
     BancoFiscale b;
-    b.scontrinoSette();
     b.impostazioni.caratteri = 30;
     b.impostazioni.intestazione[0] = "Sagra della Castagna";
     b.impostazioni.piede[1] = "Grazie!";
@@ -69,7 +68,6 @@ TEST(Componente, WhatTheArchiveLacksIsLeftOut) {
     for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
         BancoFiscale b;
-        b.scontrinoSette();
         b.impostazioni.caratteri = 40;
         b.archivio.esegui(caso.cambia);
         b.db = b.ws.OpenDatabase((b.cartella.percorso() / "archivio.mdb").string());
@@ -87,7 +85,6 @@ TEST(Componente, ARowChangedBetweenTheCallAndTheReceipt) {
          {Caso{"UPDATE ScontriniEmessi SET Stornato = -1", "Lo scontrino dell'ordine A 12 è stato stornato."},
           Caso{"DELETE FROM ScontriniEmessi", "Lo scontrino n. 7 non è più nell'archivio."}}) {
         BancoFiscale b;
-        b.scontrinoSette();
         const auto c = b.componente();
         b.archivio.esegui(caso.cambia);
         bool esito = true;
@@ -101,7 +98,6 @@ TEST(Componente, ARowChangedBetweenTheCallAndTheReceipt) {
 
 TEST(Componente, HeaderAndLinesBelongTogetherWhileAnotherStationRenumbers) {
     BancoFiscale b;
-    b.scontrinoSette();
     b.archivio.esegui("PRAGMA journal_mode = WAL");
     std::atomic<bool> basta = false;
     std::thread altra([&] {
@@ -125,7 +121,6 @@ TEST(Componente, HeaderAndLinesBelongTogetherWhileAnotherStationRenumbers) {
 
 TEST(Componente, WithoutTheOrderToPrintNothingIsPrinted) {
     BancoFiscale b;
-    b.scontrinoSette();
     const auto c = b.componente();
     c->Stampa(false);
     bool esito = true;
@@ -136,16 +131,13 @@ TEST(Componente, WithoutTheOrderToPrintNothingIsPrinted) {
 
 TEST(Componente, AFolderThatCantBeWrittenIsAFailure) {
     BancoFiscale b;
-    b.scontrinoSette();
     b.impostazioni.indirizzo() = "archivio.mdb"; // a file, not a folder
     EXPECT_FALSE(b.emetti(7));
     EXPECT_EQ(b.registro().at(0).fine, Fine::NonStampato);
 }
 
 TEST(Utilita, TheListTheStateAndOneAgain) {
-    BancoFiscale b;
-    b.scontrinoSette();
-    b.impostazioni.driver = TipoDriver::Rete;
+    BancoFiscale b(TipoDriver::Rete);
     EXPECT_FALSE(b.emetti(7) || b.registro().size() > 0); // no address: no attempt
     b.impostazioni.indirizzo() = "127.0.0.1:1";
     EXPECT_FALSE(b.emetti(7));

@@ -43,10 +43,7 @@ TEST(Programma, OnlyItsOwnGoodWordCounts) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(caso.nome);
-        BancoFiscale b;
-        b.scontrinoSette();
-        b.impostazioni.driver = TipoDriver::Programma;
-        b.impostazioni.limite = 3;
+        BancoFiscale b(TipoDriver::Programma);
         const std::string qui = b.cartella.percorso().string();
         b.impostazioni.indirizzo() = b.programma("stampa", "cd " + qui + "; " + caso.corpo);
         const auto inizio = std::chrono::steady_clock::now();
@@ -61,10 +58,8 @@ TEST(Programma, OnlyItsOwnGoodWordCounts) {
 }
 
 TEST(Programma, WhatItIsTold) {
-    BancoFiscale b;
-    b.scontrinoSette();
+    BancoFiscale b(TipoDriver::Programma);
     b.archivio.esegui("UPDATE Dettaglio SET Prezzo = NULL WHERE Descrizione = 'Caffè'");
-    b.impostazioni.driver = TipoDriver::Programma;
     const std::string qui = b.cartella.percorso().string();
     b.impostazioni.indirizzo() =
         b.programma("stampa", "cat > " + qui + "/chiesto; cp " + qui + "/Fiscale_scontrini.txt " + qui +

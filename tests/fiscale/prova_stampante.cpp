@@ -33,12 +33,8 @@ TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
     };
     for (const Caso& caso : casi) {
         SCOPED_TRACE(static_cast<int>(caso.umore));
-        BancoFiscale b;
         Stampante stampante(caso.umore);
-        b.scontrinoSette();
-        b.impostazioni.driver = TipoDriver::Rete;
-        b.impostazioni.limite = 3;
-        b.impostazioni.indirizzo() = "127.0.0.1:" + std::to_string(stampante.porta());
+        BancoFiscale b(TipoDriver::Rete, "127.0.0.1:" + std::to_string(stampante.porta()));
         const auto inizio = std::chrono::steady_clock::now();
         EXPECT_EQ(b.emetti(7), caso.fine == Fine::Fatto);
         EXPECT_LT(std::chrono::steady_clock::now() - inizio, 8s);
@@ -59,21 +55,16 @@ TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
 }
 
 TEST(Stampante, NobodyThereAndAnAddressThatIsNone) {
-    BancoFiscale b;
-    b.scontrinoSette();
-    b.impostazioni.driver = TipoDriver::Rete;
     for (const char* indirizzo : {"127.0.0.1:1", "stampante!", "127.0.0.1:x", ""}) {
         SCOPED_TRACE(indirizzo);
-        b.impostazioni.indirizzo() = indirizzo;
+        BancoFiscale b(TipoDriver::Rete, indirizzo);
         EXPECT_FALSE(b.emetti(7));
         EXPECT_THAT(b.avviso(), HasSubstr("Lo scontrino non è stato stampato."));
     }
 }
 
 TEST(Stampante, ADeviceFileTakesTheBytes) {
-    BancoFiscale b;
-    b.scontrinoSette();
-    b.impostazioni.driver = TipoDriver::Dispositivo;
+    BancoFiscale b(TipoDriver::Dispositivo);
     b.impostazioni.controllaStato = false;
     b.impostazioni.indirizzo() = (b.cartella.percorso() / "lp").string();
     EXPECT_FALSE(b.emetti(7)); // a missing device isn't made
@@ -90,11 +81,7 @@ TEST(EscPos, EuroAndAccentsInBothPages) {
 }
 
 TEST(Coda, OnlyAPrintedJobIsDoneAndOneThatStaysIsTakenOut) {
-    BancoFiscale b;
-    b.scontrinoSette();
-    b.impostazioni.driver = TipoDriver::Coda;
-    b.impostazioni.limite = 3;
-    b.impostazioni.indirizzo() = "cassa";
+    BancoFiscale b(TipoDriver::Coda, "cassa");
     const std::string qui = b.cartella.percorso().string();
     const std::string percorsoVecchio = std::getenv("PATH");
     ::setenv("PATH", (qui + ":" + percorsoVecchio).c_str(), 1);
