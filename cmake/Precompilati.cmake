@@ -1,6 +1,12 @@
 # The headers of others that most sources read, compiled once for all targets that are compiled with the same flags.
 # A source still includes whatever it uses: it compiles without them too (CMAKE_DISABLE_PRECOMPILE_HEADERS).
 
+# Where g++ optimises it warns about the standard library's insides when they come precompiled; and so one kind of build
+# shows a source that lacks an include.
+if(NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
+
 # lum_precompilati(kind headers... [LIBRERIE libs...]): the precompiled headers of a kind of targets.
 function(lum_precompilati genere)
   cmake_parse_arguments(P "" "" "LIBRERIE" ${ARGN})
