@@ -12,7 +12,7 @@ namespace {
 
 constexpr unsigned kSeme = 20260315;
 constexpr int kScrittureAlSecondo = 60;
-constexpr int kChiamateAlmeno = 8;
+constexpr int kChiamateAlmeno = 20;
 
 std::string codice(int quadrante, const std::string& cella) {
     const std::string numero = cella.substr(3);
@@ -93,7 +93,8 @@ TEST_P(Carico, chiamaDepennaERipristinaMentreAltriProcessiScrivono) {
                 "%d restores, %d rebuilds\n",
                 registro.scritture(), registro.scrittureAlSecondo(), registro.chiamate(), registro.incerte(),
                 ripristini, ricostruzioni);
-    EXPECT_GT(registro.scrittureAlSecondo(), 10) << "too little load to show anything";
+    // A write to an Access archive is flushed several times.
+    EXPECT_GT(registro.scrittureAlSecondo(), archiviAccess() ? 10 : 20) << "too little load to show anything";
     EXPECT_GT(registro.chiamate(), kChiamateAlmeno);
 }
 

@@ -128,7 +128,7 @@ protected:
 
 TEST_F(Uccisioni, lascianoSempreUnoStatoDellaCorsa) {
     std::mt19937 caso(kSeme);
-    const int uccisioni = giri(30); // LUMIGRAFO_GIRI makes it another number
+    const int uccisioni = giri(50); // LUMIGRAFO_GIRI makes it another number
     int totale = 0, tagliate = 0;
     for (int giro = 0; giro < uccisioni; ++giro) {
         SCOPED_TRACE("seed " + std::to_string(kSeme) + ", round " + std::to_string(giro));
