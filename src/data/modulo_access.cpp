@@ -218,7 +218,6 @@ jet::Campi nuova(const jet::Definizione& d, const RegoleAccess& regole, sqlite3_
 
 int scrivi(sqlite3_vtab* vt, int quanti, sqlite3_value** valori, sqlite3_int64* chiaveNuova) noexcept {
     return protetto(vt, [&] {
-        const auto breve = tutte(vt).attesaDiUnPasso();
         TabellaAccess& t = di(vt);
         const jet::Definizione& d = t.tabella.definizione();
         if (quanti > 1 && sqlite3_value_type(valori[0]) == SQLITE_NULL) {

@@ -45,10 +45,28 @@ public:
     /// begin: it gave up what it held, and may find what it needs.
     [[nodiscard]] virtual bool siRipete() const { return false; }
     /// While true, a lock of another station is waited for but briefly: who asks for it gives way and begins
-    /// anew.
+    /// anew. Nests: as many times false as true.
     virtual void cedevole(bool) {}
     /// Undoes the transaction and gives every lock back.
     virtual void annulla() noexcept = 0;
+};
+
+/// An engine that gives way for as long as this lives; none: nothing.
+class Cedevole {
+public:
+    explicit Cedevole(Motore* motore) : motore_(motore) {
+        if (motore_)
+            motore_->cedevole(true);
+    }
+    ~Cedevole() {
+        if (motore_)
+            motore_->cedevole(false);
+    }
+    Cedevole(const Cedevole&) = delete;
+    Cedevole& operator=(const Cedevole&) = delete;
+
+private:
+    Motore* motore_;
 };
 
 /// Opens an archive with the engine that its first bytes call for, whatever its name. `attesa`: the longest

@@ -79,6 +79,14 @@ void MotoreAccess::sblocca() {
     pagine_.abbandona(); // locks of rows that were not changed
 }
 
+void MotoreAccess::cedevole(bool si) {
+    cedevoli_ += si ? 1 : -1;
+    if (cedevoli_ == 0)
+        breve_.reset();
+    else if (!breve_)
+        breve_.emplace(pagine_);
+}
+
 void MotoreAccess::annulla() noexcept {
     if (sqlite3_get_autocommit(db_) == 0)
         sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);

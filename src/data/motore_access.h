@@ -26,17 +26,13 @@ public:
     void sblocca() override;
     void annulla() noexcept override;
     [[nodiscard]] bool siRipete() const override { return true; }
-    void cedevole(bool si) override {
-        breve_.reset();
-        if (si)
-            breve_.emplace(pagine_, true);
-    }
+    void cedevole(bool si) override;
 
 private:
     jet::Pagine pagine_;
     TabelleVirtuali tabelle_;
     sqlite3* db_ = nullptr;
-    int blocchi_ = 0;
+    int blocchi_ = 0, cedevoli_ = 0;
     std::optional<jet::Pagine::AttesaBreve> breve_;
 };
 

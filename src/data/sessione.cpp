@@ -153,6 +153,9 @@ std::int32_t Sessione::esegui(std::string_view sql) {
 }
 
 void Sessione::ripetendo(const std::function<void()>& cambio) {
+    // Inside a transaction a lock is waited for to the end; a statement alone gives up what it holds instead.
+    const bool solo = sqlite3_get_autocommit(motore().connessione()) != 0;
+    const Cedevole cede(solo ? &motore() : nullptr);
     for (jet::Pazienza pazienza(attesa_);;) {
         try {
             return cambio();
@@ -160,8 +163,7 @@ void Sessione::ripetendo(const std::function<void()>& cambio) {
             const bool cambiata = guasto.numero() == dao::kCambiatoDaAltri;
             const bool bloccata = guasto.numero() == dao::kBloccatoAggiornamento ||
                                   guasto.numero() == dao::kBloccatoSalvataggio;
-            // Inside a transaction a lock was waited for to the end already.
-            const bool ritenta = cambiata || (bloccata && sqlite3_get_autocommit(motore().connessione()));
+            const bool ritenta = cambiata || (bloccata && solo);
             if (!motore().siRipete() || !ritenta || !pazienza.ancora())
                 throw;
         }

@@ -77,10 +77,6 @@ std::uint32_t TabelleVirtuali::definizioneDi(const std::string& tabella) const {
     throw erroreDao(dao::kTabellaMancante, tabella);
 }
 
-jet::Pagine::AttesaBreve TabelleVirtuali::attesaDiUnPasso() {
-    return {pagine_, sqlite3_get_autocommit(db_) != 0};
-}
-
 void TabelleVirtuali::segna(int punto) {
     if (!segni_.contains(punto)) // each table of the transaction is told of it
         segni_.emplace(punto, pagine_.segno());

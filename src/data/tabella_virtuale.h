@@ -33,9 +33,6 @@ public:
     [[nodiscard]] std::optional<Guasto> inservibile(const std::string& tabella) const;
     /// What a table's design asks of its rows. Properties that can't be read ask nothing.
     [[nodiscard]] RegoleAccess regoleDi(const jet::Definizione& definizione);
-    /// While it lives, a change waits for other stations a fraction of the whole wait only, unless it is part
-    /// of a longer transaction: its statement is repeated as a whole then, and until that holds nothing.
-    [[nodiscard]] jet::Pagine::AttesaBreve attesaDiUnPasso();
     void segna(int punto);
     void dimentica(int punto);
     void tornaA(int punto);

@@ -9,6 +9,7 @@
 #include <sqlite3.h>
 #include <sstream>
 #include <string>
+#include <thread>
 
 using namespace lumigrafo;
 
@@ -41,6 +42,8 @@ public:
             rs_->CancelUpdate();
         } else if (comando == "conta") {
             conta(std::stoi(resto));
+        } else if (comando == "occupa") {
+            occupa(std::chrono::milliseconds(std::stoi(resto)));
         } else if (comando == "inizia") {
             ws_.BeginTrans();
         } else if (comando == "conferma") {
@@ -66,6 +69,16 @@ private:
             rs_->Edit();
             Field& pezzi = rs_->Fields()["Pezzi1"];
             pezzi.Value(pezzi.Value().aIntero32() + 1);
+            rs_->Update();
+        }
+    }
+
+    /// Holds the first row for so long, and takes it anew as soon as it has given it back.
+    [[noreturn]] void occupa(std::chrono::milliseconds tempo) {
+        for (;;) {
+            rs_->MoveFirst();
+            rs_->Edit();
+            std::this_thread::sleep_for(tempo);
             rs_->Update();
         }
     }

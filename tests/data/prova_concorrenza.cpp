@@ -100,6 +100,29 @@ TEST_F(Concorrenza, NessunaModificaVaPerduta) {
     EXPECT_EQ(pezzi(), "120");
 }
 
+TEST_F(Concorrenza, ChiAttendeDaTantoVienePrimaDiChiRicomincia) {
+    if (!prova::archiviAccess())
+        GTEST_SKIP() << "who is first to lock such an archive is SQLite's business";
+    ASSERT_EQ(altra("apri " + file.string()), "fatto");
+    altra.manda("occupa 40");
+    Workspace paziente{1s};
+    const auto nostro = paziente.OpenDatabase(file.string());
+    const auto rs = nostro->OpenRecordset("Lumigrafo");
+    for (int i = 0; i < 8; ++i) {
+        SCOPED_TRACE(i);
+        EXPECT_EQ(guastoDi([&] { nostro->Execute("UPDATE Lumigrafo SET Pezzi2 = Pezzi2 + 1"); }), 0);
+        EXPECT_EQ(guastoDi([&] {
+                      paziente.cedendo([&] {
+                          rs->Edit();
+                          rs->Fields()["Pezzi1"].Value(i);
+                          rs->Update();
+                      });
+                  }),
+                  0);
+    }
+    EXPECT_EQ(archivio.leggi("SELECT Pezzi2 FROM Lumigrafo"), "9");
+}
+
 TEST_F(Concorrenza, DiDueCheSiAspettanoAVicendaUnoCede) {
     if (!prova::archiviAccess())
         GTEST_SKIP() << "who writes to such an archive has locked all of it";

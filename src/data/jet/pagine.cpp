@@ -92,7 +92,29 @@ bool Pagine::qualcunoScrive(const Parole& parole) const {
     return false;
 }
 
+void Pagine::insisti() {
+    if (stazione_ && std::chrono::steady_clock::now() - inizioTurno_ > kTurnoLungo)
+        (void)stazione_->chiediPrecedenza(); // another one that asks for it goes first
+}
+
+void Pagine::attendi(Pazienza& pazienza) {
+    insisti();
+    pazienza.attendi();
+}
+
+void Pagine::lasciaPrecedere() const {
+    for (Pazienza pazienza(kPrecedenzaMassima);
+         stazione_ && stazione_->precedeUnAltra() && pazienza.ancora();)
+        pazienza.attendi();
+}
+
+void Pagine::rendiPrecedenza() noexcept {
+    if (stazione_ && turni_ == 0 && quanteBloccate() == 0)
+        stazione_->rendiPrecedenza();
+}
+
 std::int64_t Pagine::aggiorna() {
+    const Turno turno(*this);
     // Who only reads can't tell a station that writes from one that died at it: no commit takes so long.
     constexpr std::chrono::milliseconds kCommitMassimo{300};
     if (!file_.alSuoPosto() || (stazione_ && !stazione_->valida()))
@@ -106,7 +128,7 @@ std::int64_t Pagine::aggiorna() {
             break;
         if (!pazienza.ancora())
             throw erroreDao(dao::kBloccatoLettura);
-        pazienza.attendi();
+        attendi(pazienza);
         leggiParole(ora);
     }
     if (ora != parole_ || cache_.size() > kCacheMassima) {

@@ -77,18 +77,38 @@ public:
     /// The same as a change of its own.
     void riserva(std::uint32_t numero);
 
-    /// While it lives, `cambia` waits for other stations at most a twentieth of the whole wait.
+    /// Some work that is done by trying. Who has waited long for other stations in it has precedence up to
+    /// its end, and to that of the transaction: the stations of this program begin no new one, so that the
+    /// many can't keep the one from its turn for ever.
+    class Turno {
+    public:
+        explicit Turno(Pagine& pagine) : pagine_(pagine) {
+            if (pagine_.turni_++ == 0)
+                pagine_.inizioTurno_ = std::chrono::steady_clock::now();
+        }
+        ~Turno() {
+            --pagine_.turni_;
+            pagine_.rendiPrecedenza();
+        }
+        Turno(const Turno&) = delete;
+        Turno& operator=(const Turno&) = delete;
+
+    private:
+        Pagine& pagine_;
+    };
+    /// While it lives, `cambia` waits for other stations at most a twentieth of the whole wait: who gives up
+    /// what it holds then tries again, within the same turn.
     class AttesaBreve {
     public:
-        AttesaBreve(Pagine& pagine, bool vale) : pagine_(pagine), prima_(pagine.attesa_) {
-            if (vale)
-                pagine_.attesa_ = prima_ / 20;
+        explicit AttesaBreve(Pagine& pagine) : turno_(pagine), pagine_(pagine), prima_(pagine.attesa_) {
+            pagine_.attesa_ = prima_ / 20;
         }
         ~AttesaBreve() { pagine_.attesa_ = prima_; }
         AttesaBreve(const AttesaBreve&) = delete;
         AttesaBreve& operator=(const AttesaBreve&) = delete;
 
     private:
+        Turno turno_;
         Pagine& pagine_;
         std::chrono::milliseconds prima_;
     };
@@ -114,6 +134,10 @@ public:
 
 private:
     static constexpr std::chrono::milliseconds kAttesaConBlocchi{2000};
+    /// Longer than a hold or two: there are many others, and one of them is always first.
+    static constexpr std::chrono::milliseconds kTurnoLungo{50};
+    /// A station that stops with the precedence in its hands stops nobody else.
+    static constexpr std::chrono::milliseconds kPrecedenzaMassima{500};
     struct StatoVecchio {}; ///< another station committed while a change was being planned
 
     /// A page that the transaction has changed, and the mark under which its present copy was made.
@@ -140,6 +164,11 @@ private:
         const Segno segno_;
     };
 
+    /// Before the next try: asks for precedence where the turn is long already.
+    void insisti();
+    void attendi(Pazienza& pazienza); ///< the same with a pause
+    void lasciaPrecedere() const;
+    void rendiPrecedenza() noexcept;
     void leggiParole(Parole& parole) const;
     void scriviParola(unsigned utente, std::uint16_t parola);
     [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
@@ -159,7 +188,9 @@ private:
     FileCondiviso file_;
     Intestazione intestazione_;
     std::unique_ptr<Stazione> stazione_; ///< none for who reads only or works alone
-    Parole parole_;                      ///< of the state that the cache belongs to
+    int turni_ = 0;
+    std::chrono::steady_clock::time_point inizioTurno_;
+    Parole parole_; ///< of the state that the cache belongs to
     std::vector<PaginaLetta> cache_;
     std::uint32_t nelFile_ = 0, quante_ = 0;
     std::map<std::uint32_t, Cambiata> cambiate_;
@@ -170,6 +201,7 @@ private:
 
 template <typename Lettura>
 auto Pagine::coerente(Lettura&& lettura) {
+    const Turno turno(*this);
     for (Pazienza pazienza(apertura_.attesa);;) {
         aggiorna();
         try {
@@ -182,15 +214,19 @@ auto Pagine::coerente(Lettura&& lettura) {
             if (!pazienza.ancora())
                 throw erroreDao(dao::kBloccatoLettura);
         }
+        insisti();
     }
 }
 
 template <typename Cambio>
 auto Pagine::cambia(Cambio&& cambio) {
+    const Turno turno(*this);
     Passo passo(*this);
     const std::size_t nostre = quanteBloccate();
     for (Pazienza pazienza(nostre == 0 ? attesa_ : std::min(attesa_, kAttesaConBlocchi));;) {
         bool cominciato = false;
+        if (nostre == 0)
+            lasciaPrecedere();
         try {
             aggiorna();
             cominciato = true;
@@ -206,7 +242,7 @@ auto Pagine::cambia(Cambio&& cambio) {
             sbloccaDa(nostre);
             if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
                 throw;
-            pazienza.attendi();
+            attendi(pazienza);
         }
     }
 }

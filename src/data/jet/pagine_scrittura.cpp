@@ -215,6 +215,7 @@ void Pagine::abbandona() noexcept {
     dimenticaCambi();
     quante_ = nelFile_;
     sbloccaDa(0);
+    rendiPrecedenza();
 }
 
 } // namespace lumigrafo::jet

@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::uint64_t kUtenti = 0x10000000, kPagine = 0x20000000, kTabelleLette = 0x40000000,
                         kTabelleScritte = 0x50000000, kTabelleNonDaScrivere = 0x60000000;
+/// Ours alone, and where the 32-bit places of Access stations never come.
+constexpr FileCondiviso::Intervallo kPrecedenza{0x100000000, 1};
 constexpr std::uint64_t kPasso = 0x200, kPosti = 0x100;
 constexpr std::size_t kVoce = 64, kNome = 32;
 
@@ -74,6 +76,21 @@ bool Stazione::blocca(std::uint32_t pagina) {
     bloccate_.insert(pagina);
     ordine_.push_back(pagina);
     return true;
+}
+
+bool Stazione::chiediPrecedenza() {
+    precede_ = precede_ || file_.blocca(kPrecedenza, true) == FileCondiviso::Esito::Preso;
+    return precede_;
+}
+
+void Stazione::rendiPrecedenza() {
+    if (precede_)
+        file_.sblocca(kPrecedenza);
+    precede_ = false;
+}
+
+bool Stazione::precedeUnAltra() const {
+    return !precede_ && file_.bloccoAltrui(kPrecedenza, true).has_value();
 }
 
 void Stazione::sbloccaDa(std::size_t quante) {

@@ -45,6 +45,13 @@ public:
     /// again what is locked is true.
     [[nodiscard]] bool blocca(std::uint32_t pagina);
     [[nodiscard]] bool tiene(std::uint32_t pagina) const { return bloccate_.contains(pagina); }
+    /// Asks the stations of this program to begin nothing new, for the good of this one, which has waited
+    /// long. One at a time can ask. False where another one does.
+    bool chiediPrecedenza();
+    void rendiPrecedenza();
+    [[nodiscard]] bool precede() const { return precede_; }
+    /// Whether another station asks for it.
+    [[nodiscard]] bool precedeUnAltra() const;
     /// How many pages are locked; `sbloccaDa` gives back those that were locked beyond so many.
     [[nodiscard]] std::size_t quanteBloccate() const { return ordine_.size(); }
     void sbloccaDa(std::size_t quante);
@@ -62,6 +69,7 @@ private:
 
     FileCondiviso file_;
     unsigned utente_ = 0;
+    bool precede_ = false;
     std::unordered_set<std::uint32_t> lette_, scritte_; ///< tables
     std::unordered_set<std::uint32_t> bloccate_;
     std::vector<std::uint32_t> ordine_; ///< the same, as they were taken
