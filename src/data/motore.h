@@ -37,10 +37,10 @@ public:
 
     /// Locks a row against all other stations; waits a bounded time, then throws Guasto 3218. What is written
     /// until `sblocca` is one transaction. Locks nest: the transaction ends with the outermost.
-    virtual void blocca(const std::string& tabella, std::int64_t riga) = 0;
+    void blocca(const std::string& tabella, std::int64_t riga);
     /// Gives a lock back. The last one commits; where that fails the whole transaction is undone and Guasto
     /// thrown.
-    virtual void sblocca() = 0;
+    void sblocca();
     /// True where a statement that ran into another station's change or lock is worth running again from its
     /// begin: it gave up what it held, and may find what it needs.
     [[nodiscard]] virtual bool siRipete() const { return false; }
@@ -48,7 +48,17 @@ public:
     /// anew. Nests: as many times false as true.
     virtual void cedevole(bool) {}
     /// Undoes the transaction and gives every lock back.
-    virtual void annulla() noexcept = 0;
+    void annulla() noexcept;
+
+private:
+    /// The statement that begins a transaction.
+    [[nodiscard]] virtual const char* inizio() const = 0;
+    /// Within the transaction; throws as `blocca` does.
+    virtual void bloccaRiga(const std::string& /*tabella*/, std::int64_t /*riga*/) {}
+    /// The transaction is at its end.
+    virtual void rilascia() noexcept {}
+
+    int blocchi_ = 0;
 };
 
 /// An engine that gives way for as long as this lives; none: nothing.

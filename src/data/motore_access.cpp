@@ -51,32 +51,8 @@ MotoreAccess::~MotoreAccess() {
     sqlite3_close_v2(db_);
 }
 
-void MotoreAccess::blocca(const std::string& tabella, std::int64_t riga) {
-    if (blocchi_ == 0 && sqlite3_exec(db_, "BEGIN", nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw erroreSqlite(db_, Operazione::Aggiornamento);
-    ++blocchi_;
-    if (tabella.empty()) // a transaction, no row
-        return;
-    try {
-        jet::Tabella(pagine_, tabelle_.definizioneDi(tabella)).riserva(TabelleVirtuali::posizione(riga));
-    } catch (const Guasto&) {
-        if (blocchi_ == 1)
-            annulla();
-        else
-            --blocchi_;
-        throw;
-    }
-}
-
-void MotoreAccess::sblocca() {
-    if (blocchi_ == 0 || --blocchi_ > 0)
-        return;
-    if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
-        const Guasto guasto = erroreSqlite(db_, Operazione::Aggiornamento);
-        annulla();
-        throw guasto;
-    }
-    pagine_.abbandona(); // locks of rows that were not changed
+void MotoreAccess::bloccaRiga(const std::string& tabella, std::int64_t riga) {
+    jet::Tabella(pagine_, tabelle_.definizioneDi(tabella)).riserva(TabelleVirtuali::posizione(riga));
 }
 
 void MotoreAccess::cedevole(bool si) {
@@ -85,13 +61,6 @@ void MotoreAccess::cedevole(bool si) {
         breve_.reset();
     else if (!breve_)
         breve_.emplace(pagine_);
-}
-
-void MotoreAccess::annulla() noexcept {
-    if (sqlite3_get_autocommit(db_) == 0)
-        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-    pagine_.abbandona();
-    blocchi_ = 0;
 }
 
 } // namespace lumigrafo

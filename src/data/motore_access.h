@@ -22,17 +22,18 @@ public:
     }
     std::int64_t iniziaLettura() override { return pagine_.aggiorna(); }
     void fineLettura() noexcept override {}
-    void blocca(const std::string& tabella, std::int64_t riga) override;
-    void sblocca() override;
-    void annulla() noexcept override;
     [[nodiscard]] bool siRipete() const override { return true; }
     void cedevole(bool si) override;
 
 private:
+    [[nodiscard]] const char* inizio() const override { return "BEGIN"; }
+    void bloccaRiga(const std::string& tabella, std::int64_t riga) override;
+    void rilascia() noexcept override { pagine_.abbandona(); } // rows that were locked and not changed, too
+
     jet::Pagine pagine_;
     TabelleVirtuali tabelle_;
     sqlite3* db_ = nullptr;
-    int blocchi_ = 0, cedevoli_ = 0;
+    int cedevoli_ = 0;
     std::optional<jet::Pagine::AttesaBreve> breve_;
 };
 

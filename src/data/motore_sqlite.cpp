@@ -63,26 +63,4 @@ void MotoreSqlite::fineLettura() noexcept {
     sqlite3_reset(versione_);
 }
 
-void MotoreSqlite::blocca(const std::string&, std::int64_t) {
-    if (blocchi_ == 0 && sqlite3_exec(db_, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw erroreSqlite(db_, Operazione::Aggiornamento);
-    ++blocchi_;
-}
-
-void MotoreSqlite::sblocca() {
-    if (blocchi_ == 0 || --blocchi_ > 0)
-        return;
-    if (sqlite3_exec(db_, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK) {
-        const Guasto guasto = erroreSqlite(db_, Operazione::Aggiornamento);
-        annulla();
-        throw guasto;
-    }
-}
-
-void MotoreSqlite::annulla() noexcept {
-    if (sqlite3_get_autocommit(db_) == 0)
-        sqlite3_exec(db_, "ROLLBACK", nullptr, nullptr, nullptr);
-    blocchi_ = 0;
-}
-
 } // namespace lumigrafo

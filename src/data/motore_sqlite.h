@@ -18,18 +18,15 @@ public:
     [[nodiscard]] bool solaLettura() const override;
     std::int64_t iniziaLettura() override;
     void fineLettura() noexcept override;
-    void blocca(const std::string& tabella, std::int64_t riga) override;
-    void sblocca() override;
-    void annulla() noexcept override;
 
 private:
+    [[nodiscard]] const char* inizio() const override { return "BEGIN IMMEDIATE"; } // locks the whole file
     void prepara(const char* sql);
     void esegui(const char* sql);
     void chiudi() noexcept;
 
     sqlite3* db_ = nullptr;
     sqlite3_stmt* versione_ = nullptr;
-    int blocchi_ = 0;
 };
 
 } // namespace lumigrafo

@@ -3,10 +3,10 @@
 #include "data/jet/nuova_tabella.h"
 #include "data/jet/pagine.h"
 #include "platform/finti/finti.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/data/stazione.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // What two stations do to each other, with two real processes.
 #include "data/dao.h"
 #include "platform/computer.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/data/stazione.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

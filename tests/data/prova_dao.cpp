@@ -1,7 +1,7 @@
 #include "data/dao.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <fstream>
 #include <gtest/gtest.h>

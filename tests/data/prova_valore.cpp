@@ -1,5 +1,5 @@
 #include "data/valore.h"
-#include "tests/data/attesa_guasto.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 
 #include "platform/guasto.h"
 
+#include <gtest/gtest.h>
 #include <string>
 #include <utility>
 
@@ -18,6 +19,14 @@ Fallimento fallimento(Azione&& azione) {
         return {guasto.numero(), guasto.descrizione()};
     }
     return {};
+}
+
+/// The number alone, 0 where nothing failed; a failure must have a text for people.
+template <typename Azione>
+int guastoDi(Azione&& azione) {
+    const auto [numero, testo] = fallimento(std::forward<Azione>(azione));
+    EXPECT_EQ(testo.empty(), numero == 0) << numero;
+    return numero;
 }
 
 } // namespace lumigrafo::prova

@@ -8,8 +8,8 @@
 #include "data/jet/tabella.h"
 #include "data/jet/verifica.h"
 #include "data/verifica_archivio.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <algorithm>
 #include <csignal>

@@ -6,9 +6,9 @@
 #include "data/jet/ordinamento.h"
 #include "data/jet/testo.h"
 #include "data/jet/verifica.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/data/jet/esporta.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <bit>
 #include <cmath>

@@ -7,10 +7,10 @@
 #include "data/jet/tabella.h"
 #include "data/jet/testo.h"
 #include "data/jet/verifica.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/data/jet/esporta.h"
 #include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/durata.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <algorithm>
 #include <fstream>

@@ -10,8 +10,8 @@
 #include "data/jet/verifica.h"
 #include "data/schema.h"
 #include "platform/file_condiviso.h"
-#include "tests/data/attesa_guasto.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/guasto_atteso.h"
 
 #include <functional>
 #include <gtest/gtest.h>
