@@ -14,8 +14,8 @@ Console& Banco::console() {
     console_ = std::make_unique<Console>(
         stato,
         PorteConsole{ambiente, orologio, *pompaConsole_, iTimers, avvisi, messaggi, processi, alimentazione,
-                     sistema, desktop, uscita, dialoghi, annunciatore, annunciatore, fiscale, android,
-                     server},
+                     sistema, desktop, uscita, dialoghi, collegati, collegati, collegati, collegati,
+                     collegati},
         finestraVera ? *finestraVera : finestra, [this](TipoVideata tipo) {
             tipoChiesto = tipo;
             // The standard board unless asked otherwise: it has the slots of all three quadrants.
@@ -25,6 +25,11 @@ Console& Banco::console() {
                                });
         });
     return *console_;
+}
+
+void Banco::reparti(std::initializer_list<int> categorie) {
+    for (int i = 0; const int categoria : categorie)
+        imposta(("Categoria" + std::to_string(i++)).c_str(), categoria);
 }
 
 Console& Banco::caricata() {
@@ -51,14 +56,16 @@ std::vector<std::string> Banco::posti(int quadrante, int quanti) {
 
 void Banco::clic(int quadrante, const std::string& testo) {
     Griglia& grid = console().stato().grid.at(static_cast<std::size_t>(quadrante));
-    for (int r = 0; r < grid.Rows(); ++r)
-        for (int k = 0; k < grid.Cols(); ++k)
-            if (grid.testo(r, k) == testo) {
-                grid.corrente(r, k);
-                console().clicGriglia(quadrante);
-                return;
-            }
-    throw std::runtime_error("no cell with " + testo);
+    const auto posto = grid.cerca(testo);
+    if (!posto)
+        throw std::runtime_error("no cell with " + testo);
+    grid.corrente(posto->riga, posto->colonna);
+    console().clicGriglia(quadrante);
+}
+
+void Banco::digita(std::string_view tasti) {
+    for (const char tasto : tasti)
+        (void)console().tasto(static_cast<unsigned char>(tasto));
 }
 
 Diario Banco::senza(std::initializer_list<std::string_view> inizi) const {

@@ -11,12 +11,21 @@
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
+#include <chrono>
 #include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace lumigrafo::prova {
+
+using namespace std::chrono_literals;
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::Not;
 
 /// A console without a window on a real archive, with every port faked; what the fakes are told is in
 /// `diario`.
@@ -47,10 +56,7 @@ public:
     DesktopFinto desktop{&diario};
     UscitaFinta uscita{&diario};
     DialoghiFinti dialoghi{diario};
-    AnnunciatoreFinto annunciatore{diario};
-    FiscaleFinto fiscale{diario};
-    AndroidFinto android{diario};
-    ServerFinto server{diario};
+    CollegatiFinti collegati{diario};
     FinestraFinta finestra{diario};
     SceltaFileFinta sceltaFile;
     /// Real sides in the place of the fakes, for tests of the window; set before the first `console()`.
@@ -69,12 +75,22 @@ public:
     void imposta(const char* chiave, const ValoreIni& valore) {
         impostazioni.ScriviIni(kSezioneImpostazioni, chiave, valore);
     }
+    /// The categories of the quadrants, behind them the first one's further category; 0 for none.
+    void reparti(std::initializer_list<int> categorie);
     /// Texts of a grid's cells, row by row, "" for empty ones.
     [[nodiscard]] std::vector<std::string> celle(int quadrante);
     /// The slots of a quadrant on the board, from 1 to `quanti`.
     [[nodiscard]] std::vector<std::string> posti(int quadrante, int quanti = 6);
+    /// What stands on a control of the console.
+    [[nodiscard]] const std::string& scritta(const char* nome, int indice = kSenzaIndice) {
+        return console().controlli()(nome, indice).Caption();
+    }
     /// Makes the cell with this text current and clicks it.
     void clic(int quadrante, const std::string& testo);
+    /// Clicks a control of the console.
+    void premi(const char* nome, int indice = kSenzaIndice) { console().clic(nome, indice); }
+    /// Keys of the scanner.
+    void digita(std::string_view tasti);
     /// What the diary holds of these kinds of entries, in order ("cedi" and "attendi" left out, say).
     [[nodiscard]] Diario senza(std::initializer_list<std::string_view> inizi) const;
 

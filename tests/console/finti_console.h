@@ -48,35 +48,26 @@ public:
     }
 };
 
-class AnnunciatoreFinto : public Annunciatore, public Parlante, Annotatore {
+/// What the console talks to beside its operator: voice, receipts, boards of the network, cash desks.
+class CollegatiFinti : public Annunciatore,
+                       public Parlante,
+                       public Fiscale,
+                       public LumigrafiAndroid,
+                       public ServerCasse,
+                       Annotatore {
 public:
-    explicit AnnunciatoreFinto(Diario& diario) : Annotatore(diario) {}
+    explicit CollegatiFinti(Diario& diario) : Annotatore(diario) {}
+    std::function<void()> dentroScontrino; ///< what happens while a receipt is issued
+
     void ScegliVoce() override { annota("ScegliVoce"); }
     void AccodaAnnuncio(const std::string& testo) override { annota("voce " + testo); }
     void Parla(const std::string& testo) override { annota("parla " + testo); }
-};
-
-class FiscaleFinto : public Fiscale, Annotatore {
-public:
-    explicit FiscaleFinto(Diario& diario) : Annotatore(diario) {}
     void EmettiFiscale(const std::string& sigla, const std::string& numero) override {
         annota("fiscale " + sigla + "/" + numero);
-        if (dentro)
-            dentro();
+        if (dentroScontrino)
+            dentroScontrino();
     }
-
-    std::function<void()> dentro; ///< what happens while a receipt is issued
-};
-
-class AndroidFinto : public LumigrafiAndroid, Annotatore {
-public:
-    explicit AndroidFinto(Diario& diario) : Annotatore(diario) {}
     void SincronizzaLumAndroid(std::int16_t last) override { annota("android " + std::to_string(last)); }
-};
-
-class ServerFinto : public ServerCasse, Annotatore {
-public:
-    explicit ServerFinto(Diario& diario) : Annotatore(diario) {}
     void Apri() override { annota("server"); }
 };
 

@@ -1,30 +1,19 @@
 #include "console/avanti_prossimo.h"
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-struct VoceAlBanco : Parlante {
-    explicit VoceAlBanco(Diario& diario) : diario_(diario) {}
-    void Parla(const std::string& testo) override { diario_.push_back("Parla " + testo); }
-
-private:
-    Diario& diario_;
-};
 
 /// The console of the next-customer system on a real archive, with its real board.
 class AvantiIlProssimo : public testing::Test {
 protected:
     Banco b;
-    VoceAlBanco voce{b.diario};
-    AvantiProssimo coda{b.stato, voce};
+    AvantiProssimo coda{b.stato, b.collegati};
 
     void SetUp() override {
         b.tipoVero = true;
         b.imposta("TipoLumigrafo", 4);
-        b.imposta("Categoria0", 1);
+        b.reparti({1});
     }
     std::string sulTabellone(int cassa) { return b.board().controlli()("lblNumero", cassa).Caption(); }
 };
@@ -34,7 +23,7 @@ TEST_F(AvantiIlProssimo, theNumbersGoInTheOrderOfTheCells) {
         b.archivio.ordine("", n, {{1, 1}});
     b.archivio.ordine("B", 7, {{1, 1}}); // leaves the archive with the other 7
     b.caricata();
-    ASSERT_THAT(b.celle(0), testing::ElementsAre("4", "7", "25", "30", "111", "B  7", "", ""));
+    ASSERT_THAT(b.celle(0), ElementsAre("4", "7", "25", "30", "111", "B  7", "", ""));
 
     EXPECT_EQ(coda.ProssimoNumero("C"), "4");
     EXPECT_EQ(sulTabellone(2), "4");
@@ -43,8 +32,8 @@ TEST_F(AvantiIlProssimo, theNumbersGoInTheOrderOfTheCells) {
     EXPECT_EQ(b.archivio.coda(), "25 30 111");
     EXPECT_EQ(coda.ProssimoNumero("A"), "25");
     EXPECT_EQ(sulTabellone(0), "25");
-    EXPECT_THAT(b.celle(0), testing::ElementsAre("", "", "", "30", "111", "B  7", "", "")) << "holes stay";
-    b.console().clic("cmdAggiorna", kSenzaIndice);
+    EXPECT_THAT(b.celle(0), ElementsAre("", "", "", "30", "111", "B  7", "", "")) << "holes stay";
+    b.premi("cmdAggiorna");
     EXPECT_EQ(coda.ProssimoNumero("E"), "30");
     EXPECT_EQ(coda.ProssimoNumero("E"), "111");
     EXPECT_EQ(coda.ProssimoNumero("E"), "");
@@ -56,7 +45,7 @@ TEST_F(AvantiIlProssimo, theVoiceSpeaksAtOnce) {
     b.imposta("Vocale", true);
     b.caricata();
     EXPECT_EQ(coda.ProssimoNumero("D"), "9");
-    EXPECT_THAT(b.diario, testing::Contains("Parla Numero 9 in cassa, D"));
+    EXPECT_THAT(b.diario, Contains("parla Numero 9 in cassa, D"));
 }
 
 TEST_F(AvantiIlProssimo, aBoardThatIsLoadedInTheMiddleLetsNobodyTakeTheNumberTwice) {
@@ -69,7 +58,7 @@ TEST_F(AvantiIlProssimo, aBoardThatIsLoadedInTheMiddleLetsNobodyTakeTheNumberTwi
         dentro = true;
         b.pompa.sempre = nullptr;
         EXPECT_TRUE(coda.Occupato());
-        b.console().clic("cmdAggiorna", kSenzaIndice); // shows the number again: it is still in the archive
+        b.premi("cmdAggiorna"); // shows the number again: it is still in the archive
     };
     EXPECT_EQ(coda.ProssimoNumero("A"), "1");
     EXPECT_TRUE(dentro);

@@ -2,17 +2,9 @@
 #include "tests/console/banco.h"
 
 #include <fstream>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::Contains;
-using testing::ElementsAre;
-using testing::Not;
-using testing::StartsWith;
 
 std::string percorso(const Banco& b) {
     return (b.cartella.percorso() / "archivio.mdb").string();
@@ -20,8 +12,7 @@ std::string percorso(const Banco& b) {
 
 TEST(Avvio, TheLoadGoesStepByStep) {
     Banco b;
-    b.imposta("Categoria0", 1);
-    b.imposta("Categoria1", 2);
+    b.reparti({1, 2});
     b.imposta("Vocale", 1);
     b.archivio.ordine("A", 1, {{1, 1}});
     b.console().carica();
@@ -31,9 +22,9 @@ TEST(Avvio, TheLoadGoesStepByStep) {
                             "videata caricata", "cedi Videata/Load", "videata normale", "videata a 0",
                             "videata in vista", "cedi cmdLumigrafo/1", "videata normale", "console in vista",
                             "cedi Form_Load/18 mostrato", "android -1", "mnuFiscale nascosto"));
-    EXPECT_EQ(b.console().controlli()("lblDB").Caption(), percorso(b));
+    EXPECT_EQ(b.scritta("lblDB"), percorso(b));
     EXPECT_TRUE(std::filesystem::is_empty(b.cartella.percorso() / "log.vocal.txt"));
-    EXPECT_TRUE(b.console().stato().VoceAttiva);
+    EXPECT_TRUE(b.stato.VoceAttiva);
 }
 
 TEST(Avvio, FirstActivationHappensOnceAndTestsTheStoredTruthValue) {
@@ -69,41 +60,35 @@ TEST(Avvio, ASecondStartSaysSoAndEndsUnlessItIsARestart) {
     EXPECT_EQ(std::count(riavviato.diario.begin(), riavviato.diario.end(), "cedi cmdLumigrafo/1"), 2);
 }
 
-struct CasoArchivio {
-    const char* nome;
-    const char* cartella;
-    bool risponde;
-    const char* esito;
-};
-
-class ArchivioAssente : public testing::TestWithParam<CasoArchivio> {};
-
-TEST_P(ArchivioAssente, WarnsOnceAndEndsAfterTheDialog) {
-    Banco b;
-    b.imposta("DatabaseLumigrafo", GetParam().cartella);
-    b.sistema.risponde = GetParam().risponde;
-    EXPECT_THROW(b.console().carica(), FineProcesso);
-    const Avviso& avviso = b.avvisi.mostrati.at(0);
-    const std::string archivio = (std::filesystem::path(GetParam().cartella) / "archivio.mdb").string();
-    EXPECT_EQ(avviso.testo, "Errore di collegamento al database " + archivio + "\r\n\r\n" + GetParam().esito);
-    EXPECT_EQ(avviso.titolo, "");
-    EXPECT_EQ(avviso.icona, Icona::Esclamazione);
-    EXPECT_EQ(b.orologio.atteso, 3s);
-    const Diario coda(b.diario.end() - 4, b.diario.end());
-    EXPECT_THAT(coda,
-                ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmDatabase", "fine 0"));
+TEST(Avvio, AnAbsentArchiveWarnsOnceAndEndsAfterTheDialog) {
+    const struct {
+        const char* cartella;
+        bool risponde;
+        const char* esito;
+    } casi[] = {
+        {"/non/esiste", true, ""},
+        {"\\\\192.168.1.10\\dati", true, "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
+        {"\\\\SERVER\\dati\\x", false,
+         "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
+         "di rete siano collegati e che i led del switch siano accesi."},
+    };
+    for (const auto& [cartella, risponde, esito] : casi) {
+        SCOPED_TRACE(cartella);
+        Banco b;
+        b.imposta("DatabaseLumigrafo", cartella);
+        b.sistema.risponde = risponde;
+        EXPECT_THROW(b.console().carica(), FineProcesso);
+        const Avviso& avviso = b.avvisi.mostrati.at(0);
+        EXPECT_EQ(avviso.testo, "Errore di collegamento al database " +
+                                    (std::filesystem::path(cartella) / "archivio.mdb").string() + "\r\n\r\n" +
+                                    esito);
+        EXPECT_EQ(avviso.titolo, "");
+        EXPECT_EQ(avviso.icona, Icona::Esclamazione);
+        EXPECT_EQ(b.orologio.atteso, 3s);
+        EXPECT_THAT(Diario(b.diario.end() - 4, b.diario.end()),
+                    ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmDatabase", "fine 0"));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cartelle, ArchivioAssente,
-    testing::Values(CasoArchivio{"locale", "/non/esiste", true, ""},
-                    CasoArchivio{"risponde", "\\\\192.168.1.10\\dati", true,
-                                 "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
-                    CasoArchivio{
-                        "tace", "\\\\SERVER\\dati\\x", false,
-                        "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
-                        "di rete siano collegati e che i led del switch siano accesi."}),
-    [](const auto& caso) { return caso.param.nome; });
 
 TEST(Avvio, AnArchiveThatComesUpDuringTheWaitIsTaken) {
     Banco b;
@@ -136,15 +121,14 @@ TEST(Avvio, TheBusinessDayChangesAtFive) {
         Banco b;
         b.orologio.ora = ora;
         b.console().carica();
-        EXPECT_EQ(b.console().stato().DataCompetenza, data);
+        EXPECT_EQ(b.stato.DataCompetenza, data);
     }
 }
 
 TEST(Avvio, StaleNumbersGoAndThoseOfAnOpenServiceComeBack) {
     for (const bool aperti : {false, true}) {
         Banco b;
-        b.imposta("Categoria0", 1);
-        b.imposta("Categoria1", 2);
+        b.reparti({1, 2});
         if (aperti)
             b.archivio.ordine("A", 5, {{1, 1}});
         b.videata.ScriviIni("0", "Numero3", "A 4");
@@ -155,21 +139,20 @@ TEST(Avvio, StaleNumbersGoAndThoseOfAnOpenServiceComeBack) {
 }
 
 TEST(Avvio, ReducedAndAndroidAloneKeepTheBoardMinimised) {
-    Banco ridotta;
-    ridotta.ambiente.argomenti = "RIDOTTA";
-    ridotta.console().carica();
-    EXPECT_THAT(ridotta.diario, Contains("videata ridotta"));
-    Banco android;
-    android.impostazioni.ScriviIni(kSezioneAndroid, "SoloAndroid", 1);
-    android.console().carica();
-    EXPECT_THAT(android.diario, Contains("videata ridotta"));
+    for (const bool android : {false, true}) {
+        Banco b;
+        b.ambiente.argomenti = android ? "" : "RIDOTTA";
+        b.impostazioni.ScriviIni(kSezioneAndroid, "SoloAndroid", android ? 1 : 0);
+        b.console().carica();
+        EXPECT_THAT(b.diario, Contains("videata ridotta"));
+    }
 }
 
 TEST(Avvio, SettingsThatAreGarbage) {
     Banco b;
     std::ofstream(b.impostazioni.file(), std::ios::binary) << std::string("\0\xff[Impostazioni\nVocale", 22);
     b.console().carica(); // nothing readable: the defaults
-    EXPECT_EQ(b.console().stato().NumeroMassimoRighe, 50);
+    EXPECT_EQ(b.stato.NumeroMassimoRighe, 50);
     Banco parole;
     parole.imposta("TipoLumigrafo", "verticale");
     EXPECT_THROW(parole.console().carica(), Guasto);
@@ -177,11 +160,9 @@ TEST(Avvio, SettingsThatAreGarbage) {
 
 TEST(Avvio, WaysOut) {
     Banco b;
-    b.imposta("Categoria0", 1);
+    b.reparti({1});
     b.caricata();
-    b.console().clic("cmdUscita", kSenzaIndice);
-    EXPECT_THAT(b.diario, ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe", "frmSpegni"));
-    b.console().clic("cmdSpegni", kSenzaIndice);
+    b.premi("cmdSpegni");
     EXPECT_EQ(b.alimentazione.spegnimenti, 1);
     b.diario.clear();
     EXPECT_THROW(b.console().scarica(), FineProcesso);
@@ -191,20 +172,20 @@ TEST(Avvio, WaysOut) {
 
     Banco riavvio;
     riavvio.caricata();
-    EXPECT_THROW(riavvio.console().clic("cmdRiavvia", kSenzaIndice), FineProcesso);
+    EXPECT_THROW(riavvio.premi("cmdRiavvia"), FineProcesso);
     EXPECT_THAT(riavvio.diario, ElementsAre("cedi cmdRiavvia/1", "avvia /opt/lumigrafo/lumigrafo RIAVVIO",
                                             "attendi 400", "fine 0"));
 }
 
 TEST(Avvio, ClearingTheBoardTakesItsFileAndItsNumbers) {
     Banco b;
-    b.imposta("Categoria0", 1);
+    b.reparti({1});
     b.archivio.ordine("A", 5, {{1, 1}});
     b.caricata();
     b.clic(0, "A  5");
-    b.console().clic("cmdPulisciLumigrafo", kSenzaIndice);
+    b.premi("cmdPulisciLumigrafo");
     EXPECT_FALSE(std::filesystem::exists(b.videata.file()));
-    EXPECT_THAT(b.posti(0), testing::Each(""));
+    EXPECT_THAT(b.posti(0), Each(""));
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_0"), "A  5");
 }
 

@@ -1,25 +1,13 @@
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::Not;
 
 class Chiamate : public testing::Test {
 protected:
     Banco b;
     void SetUp() override {
-        b.imposta("Categoria0", 1);
-        b.imposta("Categoria1", 2);
-        b.imposta("Categoria2", 3);
+        b.reparti({1, 2, 3});
         b.imposta("Vocale", 1);
         for (int n = 1; n <= 8; ++n)
             b.archivio.ordine("A", n, {{1, 2}, {2, 1}});
@@ -29,7 +17,7 @@ protected:
 TEST_F(Chiamate, TheGridsStandStillWhileAReceiptIsIssued) {
     b.imposta("ScontrinoFiscale", 1);
     b.caricata();
-    b.fiscale.dentro = [this] { // the operator thinks about the printer for a while
+    b.collegati.dentroScontrino = [this] { // the operator thinks about the printer for a while
         b.archivio.esegui("DELETE FROM Lumigrafo WHERE Numero = 1");
         b.timers.avanza(32s);
     };
@@ -46,7 +34,7 @@ TEST_F(Chiamate, OneTouchDoesTheWholeRoad) {
     EXPECT_THAT(b.senza({"cedi", "attendi"}),
                 ElementsAre("ridisegna", "videata in vista", "android 0", "console in vista",
                             "voce Cucina A 3", "fiscale A/3"));
-    EXPECT_EQ(b.console().controlli()("lblNumero", 0).Caption(), "A 3");
+    EXPECT_EQ(b.scritta("lblNumero", 0), "A 3");
     EXPECT_THAT(b.posti(0), ElementsAre("", "", "A 3", "", "", ""));
     EXPECT_EQ(b.videata.LeggiIni("0", "Numero3"), "A 3");
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_0"), "A  3");
@@ -70,9 +58,8 @@ TEST_F(Chiamate, NumbersAgeThroughTheSlotsInTheirOddOrder) {
         b.clic(0, "A  " + std::to_string(n));
     EXPECT_THAT(b.posti(0), ElementsAre("A 5", "A 6", "A 7", "A 4", "A 3", "A 2"));
     EXPECT_THAT(b.posti(1), Each(""));
-    for (int n = 1; n <= 6; ++n)
-        EXPECT_EQ(b.videata.LeggiIni("0", "Numero" + std::to_string(n)),
-                  b.posti(0)[static_cast<std::size_t>(n - 1)]);
+    for (std::size_t n = 1; n <= 6; ++n)
+        EXPECT_EQ(b.videata.LeggiIni("0", "Numero" + std::to_string(n)), b.posti(0)[n - 1]);
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_6"), "A  1");
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_7"), "");
 }
@@ -81,9 +68,8 @@ TEST_F(Chiamate, ANumberOnShowIsCalledAgainWithoutAShift) {
     b.caricata();
     b.clic(0, "A  1");
     b.clic(0, "A  2");
-    b.archivio.esegui(
-        "UPDATE Lumigrafo SET Categoria1 = -1 WHERE Numero = 1"); // entered anew by the cash desk
-    b.console().clic("cmdAggiorna", kSenzaIndice);
+    b.archivio.esegui("UPDATE Lumigrafo SET Categoria1 = -1 WHERE Numero = 1"); // entered anew
+    b.premi("cmdAggiorna");
     b.diario.clear();
     b.clic(0, "A  1");
     EXPECT_THAT(b.posti(0), ElementsAre("", "A 1", "A 2", "", "", ""));
@@ -99,6 +85,9 @@ TEST_F(Chiamate, TheLastOpenCategoryTakesTheOrderOffTheQueue) {
     b.clic(0, "A  1");
     b.clic(1, "A  1");
     EXPECT_EQ(b.archivio.coda(), "A2 A3 A4 A5 A6 A7 A8");
+    b.stato.Categoria[3] = 2; // the further category is cleared with the first
+    b.clic(0, "A  2");
+    EXPECT_EQ(b.archivio.coda(), "A3 A4 A5 A6 A7 A8");
 }
 
 TEST_F(Chiamate, AnEmptiedRowGoesAndAHoleStays) {
@@ -112,29 +101,21 @@ TEST_F(Chiamate, AnEmptiedRowGoesAndAHoleStays) {
 
 TEST_F(Chiamate, StrikeOffModeOnlyStrikesOff) {
     b.caricata();
-    b.console().clic("cmdModalita", 0);
+    b.premi("cmdModalita", 0);
     EXPECT_EQ(b.messaggi.mostrati.back().first, "Modalità depennamento");
-    EXPECT_EQ(b.console().controlli()("cmdModalita", 1).Caption(), "Modalità depennamento");
+    EXPECT_EQ(b.scritta("cmdModalita", 1), "Modalità depennamento");
     b.diario.clear();
     b.clic(0, "A  1");
     EXPECT_THAT(b.senza({"cedi", "attendi"}), ElementsAre("ridisegna"));
     EXPECT_THAT(b.posti(0), Each(""));
     EXPECT_FALSE(std::filesystem::exists(b.ultimi.file()));
     EXPECT_EQ(b.archivio.leggi("SELECT Numero FROM ScontriniEmessi WHERE Servito <> 0"), "1");
-    b.console().clic("cmdModalita", 1);
-    EXPECT_FALSE(b.console().stato().ModalitaDepennamento);
-}
-
-TEST_F(Chiamate, TheFurtherCategoryIsClearedWithTheFirst) {
-    b.imposta("Categoria3", 2);
-    b.caricata();
-    b.clic(0, "A  1");
-    EXPECT_EQ(b.archivio.coda(), "A2 A3 A4 A5 A6 A7 A8");
+    b.premi("cmdModalita", 1);
+    EXPECT_FALSE(b.stato.ModalitaDepennamento);
 }
 
 TEST_F(Chiamate, OneDepartmentSaysTheKeyWordAndMarksAllLines) {
-    b.imposta("Categoria1", 0);
-    b.imposta("Categoria2", 0);
+    b.reparti({1, 0, 0});
     b.archivio.ordine("", 50, {{1, 1}, {4, 1}});
     b.caricata();
     b.clic(0, "50");
@@ -144,12 +125,12 @@ TEST_F(Chiamate, OneDepartmentSaysTheKeyWordAndMarksAllLines) {
 
 TEST_F(Chiamate, ClicksThatCallNothing) {
     b.caricata();
-    b.console().stato().grid[0].corrente(2, 2); // a hole at the end of the last row
+    b.stato.grid[0].corrente(2, 2); // a hole at the end of the last row
     b.console().clicGriglia(0);
-    b.console().stato().grid[2].corrente(-1, -1); // an empty grid
+    b.stato.grid[2].corrente(-1, -1); // an empty grid
     b.console().clicGriglia(2);
     EXPECT_THAT(b.diario, ElementsAre());
-    b.console().stato().TipoLumigrafo = 4;
+    b.stato.TipoLumigrafo = 4;
     b.clic(0, "A  1");
     EXPECT_EQ(b.messaggi.mostrati.back(),
               (std::pair<std::string, std::int16_t>("Clic non possibile con sistema Avanti il Prossimo", 2)));
@@ -171,12 +152,12 @@ TEST_F(Chiamate, ARebuildInTheMiddleOfAClickStrikesOffTheTouchedOrder) {
     // Two orders go meanwhile, and the cell under the finger belongs to another one when it is emptied.
     b.pompa.alPunto("grid_click/5", [this] {
         b.archivio.esegui("DELETE FROM Lumigrafo WHERE Numero < 3");
-        b.console().clic("cmdAggiorna", kSenzaIndice);
+        b.premi("cmdAggiorna");
     });
     b.clic(0, "A  3");
     EXPECT_EQ(b.posti(0)[2], "A 3");
     EXPECT_EQ(b.archivio.leggi("SELECT Numero FROM ScontriniEmessi WHERE Servito <> 0"), "3");
-    EXPECT_EQ(b.console().stato().grid[0].testo(0, 2),
+    EXPECT_EQ(b.celle(0)[2],
               ""); // the known hazard: A 5 hides until the next rebuild
     b.timers.avanza(32s);
     EXPECT_THAT(b.celle(0), ElementsAre("A  4", "A  5", "A  6", "A  7", "A  8", ""));
@@ -192,7 +173,7 @@ TEST_F(Chiamate, AnOrderThatAnotherStationTookIsStillCalled) {
     // The queue shrinks to nothing while a click is under way.
     b.pompa.alPunto("grid_click/5", [this] {
         b.archivio.esegui("DELETE FROM Lumigrafo");
-        b.console().clic("cmdAggiorna", kSenzaIndice);
+        b.premi("cmdAggiorna");
     });
     b.clic(0, "A  8");
     EXPECT_THAT(b.celle(0), ElementsAre());
@@ -203,22 +184,22 @@ TEST_F(Chiamate, AnnouncementsAreRepeatedFromTheLabelsAndTheList) {
     for (int n = 1; n <= 3; ++n)
         b.clic(1, "A  " + std::to_string(n));
     b.diario.clear();
-    b.console().clic("lblNumero", 1);
-    b.console().clic("lblNumero", 0); // nothing called there yet
+    b.premi("lblNumero", 1);
+    b.premi("lblNumero", 0); // nothing called there yet
     EXPECT_THAT(b.diario, ElementsAre("voce Bar A 3"));
-    b.console().clic("cmdNumero", 1);
+    b.premi("cmdNumero", 1);
     const Controlli& c = b.console().controlli();
     EXPECT_TRUE(c("fraNumeri").Visible());
     EXPECT_EQ(c("fraNumeri").Left(), c("lblNumero", 1).Left());
     EXPECT_EQ(c("lblNumeroPrec", 0).Caption(), "A  3");
     EXPECT_EQ(c("lblNumeroPrec", 7).Caption(), "");
-    b.console().clic("lblNumeroPrec", 2);
+    b.premi("lblNumeroPrec", 2);
     EXPECT_EQ(b.diario.back(), "voce Bar A  1");
     EXPECT_FALSE(c("fraNumeri").Visible());
-    b.console().clic("cmdNumero", 1);
-    b.console().clic("lblNumeroPrec", 7); // nothing was called so long ago
+    b.premi("cmdNumero", 1);
+    b.premi("lblNumeroPrec", 7); // nothing was called so long ago
     EXPECT_EQ(b.diario.back(), "voce Bar A  1");
-    b.console().clic("cmdNumero", 0);
+    b.premi("cmdNumero", 0);
     b.timers.avanza(3s);
     EXPECT_FALSE(c("fraNumeri").Visible());
 }

@@ -2,14 +2,9 @@
 #include "tests/console/banco.h"
 
 #include <fstream>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
-
-using testing::Contains;
-using testing::ElementsAre;
 
 constexpr const char* kEsempio = "C'è da spostare al più presto una  FIAT BIANCHINA targata EG 121 BT";
 

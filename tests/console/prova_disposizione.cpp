@@ -1,24 +1,17 @@
 #include "console/scelta_videata.h"
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
 
-using testing::ElementsAre;
-
-struct CasoScelta {
-    std::int16_t tipo;
-    bool nove;
-    std::int16_t categoria1, categoria2;
-    SceltaVideata attesa;
-};
-
 TEST(Disposizione, BoardOfEachKindOfStation) {
     using T = TipoVideata;
-    const CasoScelta casi[] = {
+    const struct {
+        std::int16_t tipo;
+        bool nove;
+        std::int16_t categoria1, categoria2;
+        SceltaVideata attesa;
+    } casi[] = {
         {4, false, 2, 3, {T::frmAvantiProssimo, true}},
         {4, true, 0, 0, {T::frmAvantiProssimo, true}},
         {3, true, 0, 0, {T::frmLumigrafo1RepartoBig, true}},
@@ -33,7 +26,7 @@ TEST(Disposizione, BoardOfEachKindOfStation) {
         {2, true, 0, 0, {T::frmLumigrafoPerson, true}},
         {-5, false, 2, 0, {T::frmLumigrafo, false}},
     };
-    for (const CasoScelta& caso : casi) {
+    for (const auto& caso : casi) {
         StatoConsole stato;
         stato.TipoLumigrafo = caso.tipo;
         stato.Lumigrafo9Numeri = caso.nove;
@@ -43,23 +36,23 @@ TEST(Disposizione, BoardOfEachKindOfStation) {
     }
 }
 
-TEST(Disposizione, ThreeQuadrantsKeepTheDesign) {
-    Banco b;
-    for (const auto& [chiave, valore] : {std::pair("Categoria0", 1), {"Categoria1", 2}, {"Categoria2", 3}})
-        b.imposta(chiave, valore);
-    const Controlli& c = b.caricata().controlli();
-    for (int q = 0; q < 3; ++q) {
-        EXPECT_EQ(c("grid", q).Posto(), c("grid", q).disegno().rett);
-        EXPECT_TRUE(c("grid", q).Visible());
+TEST(Disposizione, TheseSetsOfQuadrantsKeepTheDesign) {
+    for (const int fuoriUso : {-1, 0, 1}) {
+        Banco b;
+        b.reparti({fuoriUso == 0 ? 0 : 1, fuoriUso == 1 ? 0 : 2, 3});
+        const Controlli& c = b.caricata().controlli();
+        for (int q = 0; q < 3; ++q) {
+            EXPECT_EQ(c("grid", q).Posto(), c("grid", q).disegno().rett);
+            EXPECT_EQ(c("grid", q).Visible(), q != fuoriUso);
+        }
+        EXPECT_FALSE(b.stato.SoloUnReparto);
+        EXPECT_EQ(c("cmdRipristina").Caption(), "Carica numeri"); // the archive lies in the program folder
     }
-    EXPECT_FALSE(b.console().stato().SoloUnReparto);
-    EXPECT_EQ(c("cmdRipristina").Caption(), "Carica numeri"); // the archive lies in the program folder
 }
 
 TEST(Disposizione, TwoQuadrantsShareTheWidth) {
     Banco b;
-    b.imposta("Categoria0", 1);
-    b.imposta("Categoria1", 2);
+    b.reparti({1, 2});
     const Controlli& c = b.caricata().controlli();
     EXPECT_EQ(c("grid", 0).Width(), Twip(8752.5));
     EXPECT_EQ(c("grid", 1).Left(), Twip(30 + 8752.5 + 40));
@@ -67,9 +60,9 @@ TEST(Disposizione, TwoQuadrantsShareTheWidth) {
     EXPECT_EQ(c("picInfo", 1).Width(), Twip(8752.5));
     EXPECT_EQ(c("lblReparto", 1).FontSize(), 25);
     EXPECT_EQ(c("cmdNumero", 1).Left(), c("grid", 1).Left() + Twip(8752.5 / 2));
-    const Griglia& grid = b.console().stato().grid[1];
+    const Griglia& grid = b.stato.grid[1];
     EXPECT_EQ(grid.larghezzaColonna(1), Twip(2918)); // 2917.5 to the even neighbour
-    EXPECT_EQ(grid.larghezzaColonna(2), b.console().stato().grid[2].larghezzaColonna(2));
+    EXPECT_EQ(grid.larghezzaColonna(2), b.stato.grid[2].larghezzaColonna(2));
     EXPECT_EQ(grid.altezzaMinima(), Twip(1000));
     EXPECT_FALSE(c("grid", 2).Visible());
     EXPECT_FALSE(c("cmdNumero", 2).Visible());
@@ -77,34 +70,18 @@ TEST(Disposizione, TwoQuadrantsShareTheWidth) {
 
 TEST(Disposizione, OneQuadrantFillsTheScreenWithFourColumns) {
     Banco b;
-    b.imposta("Categoria0", 1);
+    b.reparti({1});
     const Controlli& c = b.caricata().controlli();
-    const Griglia& grid = b.console().stato().grid[0];
-    EXPECT_TRUE(b.console().stato().SoloUnReparto);
+    const Griglia& grid = b.stato.grid[0];
+    EXPECT_TRUE(b.stato.SoloUnReparto);
     EXPECT_EQ(grid.Cols(), 4);
     EXPECT_EQ(c("lblReparto", 0).Width(), c("grid", 0).Width());
     EXPECT_LT(c("grid", 0).Left() + c("grid", 0).Width(), c("cmdAllarga").Left());
 }
 
-TEST(Disposizione, OddSetsOfQuadrants) {
-    Banco senzaPrimo;
-    senzaPrimo.imposta("Categoria1", 2);
-    senzaPrimo.imposta("Categoria2", 3);
-    const Controlli& a = senzaPrimo.caricata().controlli();
-    EXPECT_FALSE(a("grid", 0).Visible());
-    EXPECT_EQ(a("grid", 1).Posto(), a("grid", 1).disegno().rett);
-
-    Banco senzaSecondo;
-    senzaSecondo.imposta("Categoria0", 1);
-    senzaSecondo.imposta("Categoria2", 3);
-    const Controlli& c = senzaSecondo.caricata().controlli();
-    EXPECT_EQ(c("grid", 0).Posto(), c("grid", 0).disegno().rett);
-    EXPECT_FALSE(senzaSecondo.console().stato().SoloUnReparto);
-}
-
 TEST(Disposizione, NextButtonTakesTheGridsFoot) {
     Banco b;
-    b.imposta("Categoria0", 1);
+    b.reparti({1});
     b.imposta("BottoneAvanti", 1);
     b.archivio.ordine("A", 2, {{1, 1}});
     b.archivio.ordine("A", 9, {{1, 1}});
@@ -113,17 +90,10 @@ TEST(Disposizione, NextButtonTakesTheGridsFoot) {
     EXPECT_EQ(c("cmdAvanti").Width(), c.layout().larghezza);
     EXPECT_EQ(c("grid", 0).Top() + c("grid", 0).Height(), c("cmdAvanti").Top());
     for (int i = 0; i < 3; ++i) { // the third finds nothing left
-        b.console().clic("cmdAvanti", kSenzaIndice);
+        b.premi("cmdAvanti");
         EXPECT_TRUE(c("cmdAvanti").Enabled());
     }
     EXPECT_THAT(b.posti(0), ElementsAre("", "A 2", "A 9", "", "", ""));
-}
-
-TEST(Disposizione, TypeFourOpensTheServer) {
-    Banco b;
-    b.imposta("TipoLumigrafo", 4);
-    b.console().carica();
-    EXPECT_THAT(b.diario, testing::Contains("server"));
 }
 
 } // namespace

@@ -9,15 +9,8 @@
 #include <QLineEdit>
 #include <QTest>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::Contains;
-using testing::ElementsAre;
 
 /// The real window over the real loop, with the waits taken out.
 class FinestraGestione : public testing::Test {
@@ -28,8 +21,7 @@ protected:
     frmGestione finestra;
 
     void SetUp() override {
-        b.imposta("Categoria0", 1);
-        b.imposta("Categoria1", 2);
+        b.reparti({1, 2});
         b.pompaVera = &pompa;
         b.timersVeri = &timers;
         b.finestraVera = &finestra;

@@ -2,23 +2,13 @@
 #include "platform/guasto.h"
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::ElementsAre;
 
 class Griglie : public testing::Test {
 protected:
     Banco b;
-    void SetUp() override {
-        b.imposta("Categoria0", 1);
-        b.imposta("Categoria1", 2);
-        b.imposta("Categoria2", 3);
-    }
+    void SetUp() override { b.reparti({1, 2, 3}); }
 };
 
 TEST_F(Griglie, OrdersStandInTheQuadrantsOfTheirOpenCategoriesByLetterAndNumber) {
@@ -33,17 +23,15 @@ TEST_F(Griglie, OrdersStandInTheQuadrantsOfTheirOpenCategoriesByLetterAndNumber)
     EXPECT_THAT(b.celle(0), ElementsAre("9", "A  12", "B  7"));
     EXPECT_THAT(b.celle(1), ElementsAre("A  7", "A  12", ""));
     EXPECT_THAT(b.celle(2), ElementsAre("3", "", ""));
-    EXPECT_EQ(b.console().stato().grid[1].sfondo(0, 0), rgb(255, 128, 128));
-    EXPECT_EQ(b.console().stato().grid[1].sfondo(0, 1), std::nullopt);
-    EXPECT_EQ(b.console().controlli()("lblNumCasse").Caption(), "Le casse stanno servendo il numero 41");
-    EXPECT_EQ(b.console().controlli()("lblPezzi", 1).Caption(), "Pezzi 4");
-    EXPECT_EQ(b.console().controlli()("lblReparto", 1).Caption(), "Bar");
+    EXPECT_EQ(b.stato.grid[1].sfondo(0, 0), rgb(255, 128, 128));
+    EXPECT_EQ(b.stato.grid[1].sfondo(0, 1), std::nullopt);
+    EXPECT_EQ(b.scritta("lblNumCasse"), "Le casse stanno servendo il numero 41");
+    EXPECT_EQ(b.scritta("lblPezzi", 1), "Pezzi 4");
+    EXPECT_EQ(b.scritta("lblReparto", 1), "Bar");
 }
 
 TEST_F(Griglie, TheFurtherCategoryOfTheFirstQuadrantShowsAnOrderOnce) {
-    b.imposta("Categoria1", 0);
-    b.imposta("Categoria2", 0);
-    b.imposta("Categoria3", 2);
+    b.reparti({1, 0, 0, 2});
     b.archivio.ordine("A", 1, {{1, 1}, {2, 1}});
     b.archivio.ordine("A", 2, {{2, 1}});
     b.archivio.ordine("B", 2, {{2, 1}});
@@ -65,14 +53,14 @@ TEST_F(Griglie, AServedOrderVanishesAndTheCounterTableMayBeEmpty) {
     b.archivio.ordine("A", 2, {});
     b.caricata();
     EXPECT_EQ(b.archivio.coda(), "A1");
-    const std::string prima = b.console().controlli()("lblNumCasse").Caption();
+    const std::string prima = b.scritta("lblNumCasse");
     b.archivio.esegui("DELETE FROM Numero");
     b.archivio.esegui("DELETE FROM Lumigrafo");
     b.timers.avanza(32s);
     EXPECT_THAT(b.celle(0), ElementsAre());
-    EXPECT_EQ(b.console().controlli()("lblNumCasse").Caption(), prima);
+    EXPECT_EQ(b.scritta("lblNumCasse"), prima);
     // Sums over nothing are null: the last figure stays on show.
-    EXPECT_EQ(b.console().controlli()("lblPezzi", 0).Caption(), "Pezzi 1");
+    EXPECT_EQ(b.scritta("lblPezzi", 0), "Pezzi 1");
 }
 
 TEST_F(Griglie, APointerOnTheGridHoldsTheRebuildBack) {
@@ -82,7 +70,7 @@ TEST_F(Griglie, APointerOnTheGridHoldsTheRebuildBack) {
     b.console().puntatoreSuGriglia();
     b.timers.avanza(31s);
     EXPECT_THAT(b.celle(0), ElementsAre());
-    b.console().stato().BarCodeInCorso = true;
+    b.stato.BarCodeInCorso = true;
     b.console().puntatoreSuGriglia(); // a scan is being worked on: no restart
     b.timers.avanza(1s);
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", ""));
@@ -93,11 +81,11 @@ TEST_F(Griglie, ARebuildInsideARebuildReturnsAtOnce) {
     b.caricata();
     b.pompa.alPunto("CaricaVideataInizio/9", [this] {
         b.archivio.ordine("A", 2, {{1, 1}});
-        b.console().clic("cmdAggiorna", kSenzaIndice);
+        b.premi("cmdAggiorna");
     });
-    b.console().clic("cmdAggiorna", kSenzaIndice);
+    b.premi("cmdAggiorna");
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", ""));
-    b.console().clic("cmdAggiorna", kSenzaIndice);
+    b.premi("cmdAggiorna");
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", ""));
 }
 
@@ -107,10 +95,10 @@ TEST_F(Griglie, ATouchDuringTheWaitMeansTheOrderThatWasOnShow) {
     b.caricata();
     b.clic(0, "A  1"); // leaves a hole: the rebuild moves all others
     b.pompa.alPunto("CaricaVideataInizio/attesa", [this] {
-        b.console().stato().grid[0].corrente(0, 1);
+        b.stato.grid[0].corrente(0, 1);
         b.console().clicGriglia(0);
     });
-    b.console().clic("cmdAggiorna", kSenzaIndice);
+    b.premi("cmdAggiorna");
     EXPECT_EQ(b.posti(0)[2], "A 2");
     EXPECT_THAT(b.celle(0), ElementsAre("A  3", "A  4", ""));
 }
@@ -119,7 +107,7 @@ TEST_F(Griglie, CategoryOutOfRangeAndNumberTooLargeAreFailures) {
     b.archivio.ordine("A", 40000, {{1, 1}});
     EXPECT_THROW(b.caricata(), Guasto);
     Banco altro;
-    altro.imposta("Categoria0", 11);
+    altro.reparti({11});
     EXPECT_THROW(altro.caricata(), Guasto);
 }
 
@@ -127,8 +115,8 @@ TEST_F(Griglie, ClicksOnItsHeadWidenAGridForGood) {
     b.caricata();
     const Controllo& grid = b.console().controlli()("grid", 1);
     const Twip prima = grid.Width();
-    b.console().clic("lblPezz", 1);
-    b.console().clic("picInfo", 1);
+    b.premi("lblPezz", 1);
+    b.premi("picInfo", 1);
     EXPECT_EQ(grid.Width(), prima + 600);
 }
 

@@ -1,15 +1,8 @@
 #include "settings/ripristina.h"
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::Contains;
-using testing::ElementsAre;
 
 /// The restore dialog over a console on a real archive; quadrants of the categories 1, 2, 3.
 class Ripristino : public testing::Test {
@@ -19,8 +12,7 @@ protected:
     int chiusure = 0;
 
     void SetUp() override {
-        for (int q = 0; q < 3; ++q)
-            b.imposta(("Categoria" + std::to_string(q)).c_str(), q + 1);
+        b.reparti({1, 2, 3});
         b.archivio.ordine("Z", 99, {{1, 1}}); // a queue: else the start empties the board
         b.caricata();
     }
@@ -69,7 +61,6 @@ TEST_F(Ripristino, GoesStepByStep) {
                       "UPDATE DettaglioLumigrafo SET SERVITO = -1 WHERE Numero = 12");
     apri({{"Ultimo_1_0", "A  12"}});
     b.diario.clear();
-    std::string durante;
     b.pompa.alPunto("frmRipristina/2", [&] {
         EXPECT_EQ(finestra->grid(1).sfondo(0, 0), kGiallo);
         tocca(1, 0);
@@ -127,7 +118,7 @@ TEST_F(Ripristino, TakesTheNumberWithoutItsLetterOffTheNewestSlots) {
 TEST(RipristinoUnReparto, ABoardOfOneDepartmentHasNoOtherSlots) {
     Banco b;
     b.tipoVero = true;
-    b.imposta("Categoria0", 1);
+    b.reparti({1});
     b.archivio.ordine("A", 1, {{1, 1}});
     b.caricata();
     b.ultimi.ScriviIni(kSezioneUltimi, "Ultimo_0_0", "12");

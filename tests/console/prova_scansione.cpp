@@ -1,37 +1,21 @@
 #include "console/codice_scontrino.h"
 #include "tests/console/banco.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace lumigrafo::prova {
 namespace {
-
-using namespace std::chrono_literals;
-using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
-using testing::Not;
 
 class Scansioni : public testing::Test {
 protected:
     Banco b;
     void SetUp() override {
-        b.imposta("Categoria0", 1);
-        b.imposta("Categoria1", 2);
-        b.imposta("Categoria3", 5);
+        b.reparti({1, 2, 0, 5});
         b.imposta("Vocale", 1);
         b.imposta("ScontrinoFiscale", 1);
         for (int n : {7, 123, 200})
             b.archivio.ordine("A", n, {{1, 2}, {2, 1}});
         b.archivio.ordine("", 9, {{1, 1}});
     }
-    /// Keys, and Enter at the end.
-    void scandisci(const std::string& codice) {
-        for (const char tasto : codice)
-            b.console().tasto(static_cast<unsigned char>(tasto));
-        b.console().tasto(U'\r');
-    }
+    void scandisci(const std::string& codice) { b.digita(codice + "\r"); }
     [[nodiscard]] const Controllo& c(const char* nome) { return b.console().controlli()(nome); }
 };
 
@@ -45,11 +29,11 @@ TEST_F(Scansioni, AReceiptDoesWhatATouchDoesInItsOwnOrder) {
     EXPECT_THAT(b.celle(0), Not(Contains("A  123")));
     EXPECT_EQ(b.ultimi.LeggiIni("Impo", "Ultimo_0_0"), "A  123");
     EXPECT_EQ(b.archivio.leggi("SELECT Categoria1 FROM Lumigrafo WHERE Numero = 123"), "0");
-    EXPECT_EQ(c("lblMessaggioBarCode").Caption(), "Cucina\r\nA  123");
+    EXPECT_EQ(b.scritta("lblMessaggioBarCode"), "Cucina\r\nA  123");
     EXPECT_EQ(c("fraMessaggio").BackColor(), rgb(128, 255, 128));
     EXPECT_FALSE(c("fraMessaggio").Visible());
-    EXPECT_EQ(c("txtBarCode").Caption(), "");
-    EXPECT_FALSE(b.console().stato().BarCodeInCorso);
+    EXPECT_EQ(b.scritta("txtBarCode"), "");
+    EXPECT_FALSE(b.stato.BarCodeInCorso);
 }
 
 TEST_F(Scansioni, WhatIsNotInTheGridIsCalledAllTheSame) {
@@ -65,13 +49,8 @@ TEST_F(Scansioni, WhatIsNotInTheGridIsCalledAllTheSame) {
     EXPECT_EQ(b.archivio.coda(), "9 A7 A123 A200");
 }
 
-struct CasoCodice {
-    const char* codice;
-    const char* messaggio;
-};
-
 TEST_F(Scansioni, BadCodesAreRefusedInTheirWordsAndChangeNothing) {
-    const CasoCodice casi[] = {
+    const std::pair<const char*, std::string> casi[] = {
         {"599650100123", "BarCode errato! Lunghezza errata."},
         {"59965010012333", "BarCode errato! Lunghezza errata."},
         {"1", "BarCode errato! Lunghezza errata."},
@@ -80,23 +59,22 @@ TEST_F(Scansioni, BadCodesAreRefusedInTheirWordsAndChangeNothing) {
         {"5996501999993", "Categoria 1 non corretta, controllare le impostazioni: 01"},
         {"5996502001233", "Categoria 1 non corretta, controllare le impostazioni: 02"},
     };
-    b.imposta("Categoria1", 2);
     b.caricata();
-    b.console().stato().Categoria = {0, 0, 0, 0};
-    for (const CasoCodice& caso : casi) {
+    b.stato.Categoria = {0, 0, 0, 0};
+    for (const auto& [codice, messaggio] : casi) {
         b.diario.clear();
-        scandisci(caso.codice);
-        EXPECT_EQ(c("lblMessaggioBarCode").Caption(), caso.messaggio) << caso.codice;
-        EXPECT_THAT(b.senza({"cedi"}), ElementsAre("ridisegna", "attendi 2000", "ridisegna")) << caso.codice;
+        scandisci(codice);
+        EXPECT_EQ(b.scritta("lblMessaggioBarCode"), messaggio) << codice;
+        EXPECT_THAT(b.senza({"cedi"}), ElementsAre("ridisegna", "attendi 2000", "ridisegna")) << codice;
         EXPECT_TRUE(c("picErrore").Visible());
         EXPECT_EQ(c("fraMessaggio").BackColor(), Colore(4079359));
-        EXPECT_EQ(c("lblMessaggioBarCode").FontSize(), std::string(caso.messaggio).size() > 30 ? 50 : 80);
+        EXPECT_EQ(c("lblMessaggioBarCode").FontSize(), messaggio.size() > 30 ? 50 : 80);
         EXPECT_EQ(c("lblMessaggioBarCode").Left(), c("picErrore").Left() + c("picErrore").Width() + 100);
     }
-    b.console().stato().Categoria = {1, 0, 0, 0};
+    b.stato.Categoria = {1, 0, 0, 0};
     for (const char* oltre : {"5996501999993", "599000009E099"}) { // numbers beyond any order's
         scandisci(oltre);
-        EXPECT_EQ(c("lblMessaggioBarCode").Caption(), "BarCode errato!");
+        EXPECT_EQ(b.scritta("lblMessaggioBarCode"), "BarCode errato!");
     }
     EXPECT_THAT(b.posti(0), Each(""));
     EXPECT_FALSE(std::filesystem::exists(b.ultimi.file()));
@@ -109,7 +87,7 @@ TEST_F(Scansioni, TheCategoryChoosesTheQuadrant) {
     for (const auto& [codice, quadrante] : casi) {
         scandisci(codice);
         EXPECT_NE(b.posti(quadrante)[2], "") << codice;
-        EXPECT_EQ(c("lblMessaggioBarCode").Caption().substr(0, 3), quadrante == 0 ? "Cuc" : "Bar") << codice;
+        EXPECT_EQ(b.scritta("lblMessaggioBarCode").substr(0, 3), quadrante == 0 ? "Cuc" : "Bar") << codice;
     }
     scandisci("5990000000099"); // no letter
     EXPECT_EQ(b.posti(0)[2], "9");
@@ -132,10 +110,10 @@ TEST_F(Scansioni, SilenceEndsACodeAndOtherKeysDo) {
     b.timers.avanza(499ms);
     EXPECT_TRUE(b.console().tasto(U'0'));
     b.timers.avanza(499ms);
-    EXPECT_EQ(c("txtBarCode").Caption(), "599650");
+    EXPECT_EQ(b.scritta("txtBarCode"), "599650");
     b.timers.avanza(1ms);
-    EXPECT_EQ(c("lblMessaggioBarCode").Caption(), "BarCode errato! Lunghezza errata.");
-    EXPECT_EQ(c("txtBarCode").Caption(), "");
+    EXPECT_EQ(b.scritta("lblMessaggioBarCode"), "BarCode errato! Lunghezza errata.");
+    EXPECT_EQ(b.scritta("txtBarCode"), "");
     EXPECT_FALSE(b.console().tasto(U'a')); // lower case, accents and the rest aren't swallowed
     EXPECT_FALSE(b.console().tasto(U'è'));
     for (int i = 0; i < 10000; ++i)
@@ -143,19 +121,15 @@ TEST_F(Scansioni, SilenceEndsACodeAndOtherKeysDo) {
     b.diario.clear();
     EXPECT_FALSE(b.console().tasto(U'x'));
     EXPECT_THAT(b.diario, Contains("attendi 2000"));
-    EXPECT_EQ(c("txtBarCode").Caption(), "");
+    EXPECT_EQ(b.scritta("txtBarCode"), "");
 }
 
 TEST_F(Scansioni, KeysThatWaitedWhileTheProgramWasBusyAreNoSilence) {
     b.caricata();
-    for (const char tasto : std::string("5996501"))
-        b.console().tasto(static_cast<unsigned char>(tasto));
-    b.pompa.alPunto("TimerBarCode/tasti", [this] { // the tick came first
-        for (const char tasto : std::string("001233"))
-            b.console().tasto(static_cast<unsigned char>(tasto));
-    });
+    b.digita("5996501");
+    b.pompa.alPunto("TimerBarCode/tasti", [this] { b.digita("001233"); }); // the tick came first
     b.timers.avanza(500ms);
-    EXPECT_EQ(c("txtBarCode").Caption(), "5996501001233");
+    EXPECT_EQ(b.scritta("txtBarCode"), "5996501001233");
     b.timers.avanza(500ms);
     EXPECT_EQ(b.posti(0)[2], "A 123");
 }
@@ -164,12 +138,12 @@ TEST_F(Scansioni, ACodeCannotStartInsideAnother) {
     b.caricata();
     // The timer's own tick, in the events that the strike-off lets through.
     b.pompa.alPunto("AggiornaGridDB/8", [this] {
-        EXPECT_TRUE(b.console().stato().BarCodeInCorso);
+        EXPECT_TRUE(b.stato.BarCodeInCorso);
         b.timers.avanza(600ms);
-        EXPECT_EQ(c("txtBarCode").Caption(), "5996501001233");
+        EXPECT_EQ(b.scritta("txtBarCode"), "5996501001233");
     });
     scandisci("5996501001233");
-    EXPECT_EQ(c("txtBarCode").Caption(), "");
+    EXPECT_EQ(b.scritta("txtBarCode"), "");
     EXPECT_EQ(b.posti(0)[2], "A 123");
     // And a scan while the grids are being rebuilt, at its only point that lets events through.
     b.pompa.alPunto("CaricaVideataInizio/9", [this] { scandisci("5996501002003"); });
@@ -187,25 +161,24 @@ TEST_F(Scansioni, ABoardWithoutSlotsForTheQuadrantShowsNothingAndStopsNothing) {
     EXPECT_EQ(b.archivio.leggi("SELECT Categoria2 FROM Lumigrafo WHERE Numero = 123"), "0");
     EXPECT_FALSE(std::filesystem::exists(b.videata.file()));
     Banco prossimo;
-    prossimo.imposta("Categoria0", 1);
+    prossimo.reparti({1});
     prossimo.imposta("TipoLumigrafo", 4);
     prossimo.tipoVero = true;
     prossimo.archivio.ordine("A", 7, {{1, 1}});
     prossimo.caricata();
-    for (const char tasto : std::string("5996501000070\r"))
-        prossimo.console().tasto(static_cast<unsigned char>(tasto));
+    prossimo.digita("5996501000070\r");
     EXPECT_EQ(prossimo.archivio.coda(), "");
 }
 
 TEST_F(Scansioni, AScanIgnoresStrikeOffModeAndTheNextButtonRefusesInIt) {
     b.imposta("BottoneAvanti", 1);
     b.caricata();
-    b.console().clic("cmdModalita", 0);
+    b.premi("cmdModalita", 0);
     scandisci("5996501001233");
     EXPECT_EQ(b.posti(0)[2], "A 123");
     b.diario.clear();
-    b.console().clic("cmdAvanti", kSenzaIndice);
-    EXPECT_EQ(c("lblMessaggioBarCode").Caption(), "Sei in Modalità depennamento");
+    b.premi("cmdAvanti");
+    EXPECT_EQ(b.scritta("lblMessaggioBarCode"), "Sei in Modalità depennamento");
     EXPECT_THAT(b.diario, ElementsAre("ridisegna", "attendi 2000", "ridisegna"));
     EXPECT_EQ(b.archivio.coda(), "9 A7 A123 A200");
 }
