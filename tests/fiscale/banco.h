@@ -59,6 +59,13 @@ public:
         c->Stampa(true);
         return c;
     }
+    /// Shows the settings' window: `nelleImpostazioni` says what happens in it.
+    void configura() {
+        const auto c = fabbrica.creaConfigura();
+        c->CartellaProgramma(cartella.percorso().string());
+        c->Opzione("True");
+        c->Mostra(true);
+    }
     bool emetti(int id) {
         bool esito = true;
         componente()->EmettiScontrino(id, "", 1, esito);

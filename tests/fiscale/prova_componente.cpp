@@ -44,12 +44,9 @@ TOTALE                 € 19,50
 }
 
 TEST(Componente, WhatTheArchiveLacksIsLeftOut) {
-    struct Caso {
-        const char* nome;
-        const char* cambia;
-        const char* contiene;
-    };
-    const Caso casi[] = {
+    const struct {
+        const char *nome, *cambia, *contiene;
+    } casi[] = {
         {"no columns of the cash side",
          "ALTER TABLE Dettaglio DROP COLUMN Descrizione; ALTER TABLE Dettaglio DROP COLUMN Quantita;"
          "ALTER TABLE Dettaglio DROP COLUMN Prezzo; ALTER TABLE Dettaglio DROP COLUMN Totale;"
@@ -65,7 +62,7 @@ TEST(Componente, WhatTheArchiveLacksIsLeftOut) {
          "UPDATE Dettaglio SET Descrizione = 'Tagliatelle ai funghi porcini con panna e prezzemolo'",
          "Tagliatelle ai funghi porcini con\npanna e prezzemolo                 16,00"},
     };
-    for (const Caso& caso : casi) {
+    for (const auto& caso : casi) {
         SCOPED_TRACE(caso.nome);
         BancoFiscale b;
         b.impostazioni.caratteri = 40;
@@ -77,20 +74,18 @@ TEST(Componente, WhatTheArchiveLacksIsLeftOut) {
 }
 
 TEST(Componente, ARowChangedBetweenTheCallAndTheReceipt) {
-    struct Caso {
-        const char* cambia;
-        const char* testo;
-    };
-    for (const Caso& caso :
-         {Caso{"UPDATE ScontriniEmessi SET Stornato = -1", "Lo scontrino dell'ordine A 12 è stato stornato."},
-          Caso{"DELETE FROM ScontriniEmessi", "Lo scontrino n. 7 non è più nell'archivio."}}) {
+    for (const auto& [cambia, testo] : {
+             std::pair("UPDATE ScontriniEmessi SET Stornato = -1",
+                       "Lo scontrino dell'ordine A 12 è stato stornato."),
+             {"DELETE FROM ScontriniEmessi", "Lo scontrino n. 7 non è più nell'archivio."},
+         }) {
         BancoFiscale b;
         const auto c = b.componente();
-        b.archivio.esegui(caso.cambia);
+        b.archivio.esegui(cambia);
         bool esito = true;
         c->EmettiScontrino(7, "", 1, esito);
         EXPECT_FALSE(esito);
-        EXPECT_THAT(b.avviso(), HasSubstr(caso.testo));
+        EXPECT_THAT(b.avviso(), HasSubstr(testo));
         EXPECT_TRUE(b.registro().empty()); // nothing was tried
         EXPECT_FALSE(std::filesystem::exists(b.cartella.percorso() / "Scontrini"));
     }
@@ -119,7 +114,7 @@ TEST(Componente, HeaderAndLinesBelongTogetherWhileAnotherStationRenumbers) {
     altra.join();
 }
 
-TEST(Componente, WithoutTheOrderToPrintNothingIsPrinted) {
+TEST(Componente, NothingIsPrintedWithoutTheOrderToNorIntoAFolderThatCantBeWritten) {
     BancoFiscale b;
     const auto c = b.componente();
     c->Stampa(false);
@@ -127,10 +122,6 @@ TEST(Componente, WithoutTheOrderToPrintNothingIsPrinted) {
     c->EmettiScontrino(7, "", 1, esito);
     EXPECT_FALSE(esito);
     EXPECT_TRUE(b.registro().empty());
-}
-
-TEST(Componente, AFolderThatCantBeWrittenIsAFailure) {
-    BancoFiscale b;
     b.impostazioni.indirizzo() = "archivio.mdb"; // a file, not a folder
     EXPECT_FALSE(b.emetti(7));
     EXPECT_EQ(b.registro().at(0).fine, Fine::NonStampato);
@@ -166,9 +157,6 @@ TEST(Utilita, TheListTheStateAndOneAgain) {
 
 TEST(Impostazioni, EachDriverKeepsItsAddressAndBadOnesStay) {
     BancoFiscale b;
-    const auto configura = b.fabbrica.creaConfigura();
-    configura->CartellaProgramma(b.cartella.percorso().string());
-    configura->Opzione("True");
     int chiusure = 0;
     b.nelleImpostazioni = [&](ConfigurazioneFiscale& c) {
         c.allaFine([&] { ++chiusure; });
@@ -189,7 +177,7 @@ TEST(Impostazioni, EachDriverKeepsItsAddressAndBadOnesStay) {
         c.clic("cmdStato", -1);
         c.clic("cmdSalva", -1);
     };
-    configura->Mostra(true);
+    b.configura();
     EXPECT_EQ(chiusure, 1);
     const auto lette = leggiImpostazioniFiscali(b.cartella.percorso());
     EXPECT_EQ(lette.driver, TipoDriver::Rete);

@@ -36,9 +36,6 @@ TEST(FinestreFiscali, TheSettingsAreTypedAndSaved) {
     BancoFiscale b;
     FinestreComponenteQt finestre;
     b.nelleImpostazioni = [&](ConfigurazioneFiscale& c) { finestre.mostra(c); };
-    const auto configura = b.fabbrica.creaConfigura();
-    configura->CartellaProgramma(b.cartella.percorso().string());
-    configura->Opzione("True");
     quandoAperta([](QWidget& w) {
         tocca(w, "cmdDriver(1)");
         QTest::keyClicks(w.findChild<QWidget*>(QStringLiteral("txtIndirizzo")), QStringLiteral("10.0.0.7"));
@@ -54,7 +51,7 @@ TEST(FinestreFiscali, TheSettingsAreTypedAndSaved) {
         EXPECT_LE(w.height(), 728); // of 768, with the frame
         tocca(w, "cmdSalva");
     });
-    configura->Mostra(true);
+    b.configura();
     const auto lette = leggiImpostazioniFiscali(b.cartella.percorso());
     EXPECT_EQ(lette.driver, TipoDriver::Rete);
     EXPECT_EQ(lette.indirizzo(), "10.0.0.7");

@@ -22,13 +22,11 @@ bool finito(int pid) {
 }
 
 TEST(Programma, OnlyItsOwnGoodWordCounts) {
-    struct Caso {
-        const char* nome;
-        const char* corpo;
+    const struct {
+        const char *nome, *corpo;
         Fine fine;
         const char* testo;
-    };
-    const Caso casi[] = {
+    } casi[] = {
         {"done", "cat >/dev/null; echo '{\"esito\": \"fatto\"}'", Fine::Fatto, ""},
         {"done, without reading", "echo '{\"esito\": \"fatto\"}'", Fine::Fatto, ""},
         {"failed", "cat >/dev/null; echo '{\"esito\": \"fallito\", \"messaggio\": \"Registratore chiuso.\"}'",
@@ -41,7 +39,7 @@ TEST(Programma, OnlyItsOwnGoodWordCounts) {
         {"hangs with a child", "sleep 600 & echo $! > figlio; wait", Fine::Incerto,
          "non ha risposto in tempo"},
     };
-    for (const Caso& caso : casi) {
+    for (const auto& caso : casi) {
         SCOPED_TRACE(caso.nome);
         BancoFiscale b(TipoDriver::Programma);
         const std::string qui = b.cartella.percorso().string();

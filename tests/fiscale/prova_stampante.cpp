@@ -13,13 +13,12 @@ using testing::HasSubstr;
 using namespace std::chrono_literals;
 
 TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
-    struct Caso {
+    const struct {
         Umore umore;
         Fine fine;
         const char* testo; ///< of the box
         bool mandato;      ///< the receipt was sent
-    };
-    const Caso casi[] = {
+    } casi[] = {
         {Umore::Buona, Fine::Fatto, "", true},
         {Umore::Lenta, Fine::Fatto, "", true},
         {Umore::SenzaCarta, Fine::NonStampato, "La carta della stampante è finita.", false},
@@ -31,7 +30,7 @@ TEST(Stampante, EachMoodGivesItsOutcomeInBoundedTime) {
         {Umore::CartaAllaFine, Fine::Incerto, "La carta della stampante è finita.", true},
         {Umore::FineInsensata, Fine::Incerto, "La stampante ha dato una risposta incomprensibile.", true},
     };
-    for (const Caso& caso : casi) {
+    for (const auto& caso : casi) {
         SCOPED_TRACE(static_cast<int>(caso.umore));
         Stampante stampante(caso.umore);
         BancoFiscale b(TipoDriver::Rete, "127.0.0.1:" + std::to_string(stampante.porta()));
