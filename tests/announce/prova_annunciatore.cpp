@@ -1,7 +1,6 @@
 #include "tests/announce/banco_voce.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -9,117 +8,91 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kPunto = "Voice_EndStream/2";
-
-class Annuncio : public testing::Test {
-protected:
-    void SetUp() override { b.annunciatore.ScegliVoce(); }
-    void chiama(std::initializer_list<const char*> testi) {
-        for (const char* testo : testi)
-            b.annunciatore.AccodaAnnuncio(testo);
-    }
-    BancoVoce b;
-};
-
-TEST_F(Annuncio, QuickCallsAreSpokenInTurnAndLoggedWhenTheyStart) {
-    chiama({"Numero A 1", "Numero  2", "Numero B 3"});
-    EXPECT_THAT(b.diario, ElementsAre("Speak Numero A 1 -3 80"));
-    EXPECT_THAT(b.loggati(), ElementsAre("Numero A 1"));
-    b.voce.tace();
-    EXPECT_THAT(b.diario, ElementsAre("Speak Numero A 1 -3 80", "Speak Numero  2 -3 80"));
-    EXPECT_THAT(b.loggati(), ElementsAre("Numero A 1", "Numero  2"));
-    EXPECT_FALSE(b.dati.attiva);
-    b.voce.tace();
-    b.voce.tace();
-    EXPECT_THAT(b.loggati(), ElementsAre("Numero A 1", "Numero  2", "Numero B 3"));
-    EXPECT_TRUE(b.dati.attiva);
-    chiama({"Numero C 4"}); // free again: at once
-    EXPECT_EQ(b.diario.back(), "Speak Numero C 4 -3 80");
+/// Does what a line of words says: "+uno" calls, "!uno" speaks at once, "." the voice falls silent; "@" and
+/// words with commas between them: they happen inside the pump of the next end.
+void esegui(BancoVoce& b, const std::string& parole, char fra = ' ') {
+    std::istringstream da(parole);
+    for (std::string p; std::getline(da, p, fra);)
+        if (p[0] == '+')
+            b.annunciatore.AccodaAnnuncio(p.substr(1));
+        else if (p[0] == '!')
+            b.annunciatore.Parla(p.substr(1));
+        else if (p[0] == '.')
+            b.voce.tace();
+        else
+            b.pompa.alPunto("Voice_EndStream/2", [&b, dentro = p.substr(1)] {
+                EXPECT_FALSE(b.dati.attiva);
+                esegui(b, dentro, ',');
+            });
 }
 
-TEST_F(Annuncio, WaitsForTheEndOfTheLoad) {
+TEST(Annuncio, WhatIsSpokenAndLoggedInWhichOrder) {
+    const struct {
+        const char* passi;
+        Diario detti;
+        std::vector<std::string> loggati; ///< the calls alone, when they start
+        bool libera;                      ///< the voice is, for the next call
+    } casi[] = {
+        // Quick calls are spoken in turn; behind the last one the next is spoken at once.
+        {"+uno +due +tre", {"uno"}, {"uno"}, false},
+        {"+uno +due +tre .", {"uno", "due"}, {"uno", "due"}, false},
+        {"+uno +due +tre . .", {"uno", "due", "tre"}, {"uno", "due", "tre"}, false},
+        {"+uno +due +tre . . .", {"uno", "due", "tre"}, {"uno", "due", "tre"}, true},
+        {"+uno . +due", {"uno", "due"}, {"uno", "due"}, false},
+        {"+uno +due @+tre .", {"uno", "due"}, {"uno", "due"}, false},
+        {"+uno +due @+tre . . .", {"uno", "due", "tre"}, {"uno", "due", "tre"}, true},
+        // A text spoken at once cuts in, and the queue goes on behind it.
+        {"+uno +due !subito", {"uno", "subito"}, {"uno"}, false},
+        {"+uno +due !subito .", {"uno", "subito", "due"}, {"uno", "due"}, false},
+        {"+uno +due !subito . .", {"uno", "subito", "due"}, {"uno", "due"}, true},
+        {"!subito +uno", {"subito"}, {}, false},
+        {"!subito +uno .", {"subito", "uno"}, {"uno"}, false},
+        // A message window opened inside the pump stays for minutes: a text is spoken from it, ends, and the
+        // queue goes on. When the pump returns at last, nothing may be spoken twice or over the text that is
+        // on, and an emptied queue isn't read.
+        {"+uno +due @!subito,. .", {"uno", "subito", "due"}, {"uno", "due"}, false},
+        {"+uno +due @!subito,. . .", {"uno", "subito", "due"}, {"uno", "due"}, true},
+        {"+uno +due +tre @!subito,. .", {"uno", "subito", "due"}, {"uno", "due"}, false},
+        {"+uno +due +tre @!subito,. . .", {"uno", "subito", "due", "tre"}, {"uno", "due", "tre"}, false},
+        // An empty text at the head stops the queue for good: the voice is free, but something waits.
+        {"+uno + +due .", {"uno"}, {"uno"}, true},
+        {"+uno + +due . +tre", {"uno"}, {"uno"}, true},
+        {"+uno + +due . +tre !subito .", {"uno", "subito"}, {"uno"}, true},
+    };
+    for (const auto& caso : casi) {
+        SCOPED_TRACE(caso.passi);
+        BancoVoce b;
+        b.annunciatore.ScegliVoce();
+        esegui(b, caso.passi);
+        Diario detti = caso.detti;
+        for (std::string& testo : detti)
+            testo = "Speak " + testo + " -3 80"; // with the speed and the volume of the settings
+        EXPECT_EQ(b.diario, detti);
+        EXPECT_EQ(b.loggati(), caso.loggati);
+        EXPECT_EQ(b.dati.attiva, caso.libera);
+        EXPECT_EQ(b.voce.parla(), !caso.libera);
+    }
+}
+
+TEST(Annuncio, WaitsForTheEndOfTheLoad) {
+    BancoVoce b;
+    b.annunciatore.ScegliVoce();
     b.dati.attiva = false;
-    chiama({"Numero 1"});
+    esegui(b, "+uno");
     EXPECT_THAT(b.diario, IsEmpty());
     EXPECT_THAT(b.loggati(), IsEmpty());
 }
 
-TEST_F(Annuncio, ACallInsideThePumpGoesBehindTheOthers) {
-    chiama({"uno", "due"});
-    b.pompa.alPunto(kPunto, [this] {
-        EXPECT_FALSE(b.dati.attiva);
-        chiama({"tre"});
-        EXPECT_THAT(b.diario, ElementsAre("Speak uno -3 80"));
-    });
-    b.voce.tace();
-    EXPECT_THAT(b.loggati(), ElementsAre("uno", "due"));
-    b.voce.tace();
-    b.voce.tace();
-    EXPECT_THAT(b.loggati(), ElementsAre("uno", "due", "tre"));
-}
-
-TEST_F(Annuncio, ATextSpokenAtOnceCutsInAndTheQueueGoesOnBehindIt) {
-    chiama({"uno", "due"});
-    b.annunciatore.Parla("Numero 5 in cassa, A");
-    EXPECT_THAT(b.diario, ElementsAre("Speak uno -3 80", "Speak Numero 5 in cassa, A -3 80"));
-    b.voce.tace();
-    EXPECT_EQ(b.diario.back(), "Speak due -3 80");
-    EXPECT_THAT(b.loggati(), ElementsAre("uno", "due")); // a text spoken at once isn't logged
-    b.voce.tace();
-    EXPECT_EQ(b.diario.size(), 3u);
-    EXPECT_TRUE(b.dati.attiva);
-}
-
-TEST_F(Annuncio, ACallWaitsForATextSpokenAtOnce) {
-    b.annunciatore.Parla("Spostare l'auto");
-    chiama({"uno"});
-    EXPECT_EQ(b.diario.size(), 1u);
-    b.voce.tace();
-    EXPECT_EQ(b.diario.back(), "Speak uno -3 80");
-}
-
-/// A message window opened inside the pump stays for minutes: a text is spoken from it, ends, and the queue
-/// goes on. When the pump returns at last, nothing may be spoken twice or over the text that is on, and an
-/// emptied queue isn't read.
-TEST_F(Annuncio, ATextThatStartsAndEndsInsideThePumpTakesTheQueueOver) {
-    for (const bool altroInCoda : {false, true}) {
-        BancoVoce banco;
-        banco.annunciatore.ScegliVoce();
-        banco.annunciatore.AccodaAnnuncio("uno");
-        banco.annunciatore.AccodaAnnuncio("due");
-        if (altroInCoda)
-            banco.annunciatore.AccodaAnnuncio("tre");
-        banco.pompa.alPunto(kPunto, [&banco] {
-            banco.annunciatore.Parla("subito");
-            banco.voce.tace();
-        });
-        banco.voce.tace();
-        EXPECT_THAT(banco.diario, ElementsAre("Speak uno -3 80", "Speak subito -3 80", "Speak due -3 80"));
-        banco.voce.tace();
-        EXPECT_EQ(banco.voce.parla(), altroInCoda);
-        EXPECT_EQ(banco.loggati().size(), altroInCoda ? 3u : 2u);
-    }
-}
-
-TEST_F(Annuncio, AnEmptyTextAtTheHeadStopsTheQueueForGood) {
-    chiama({"uno", "", "due"});
-    b.voce.tace();
-    EXPECT_TRUE(b.dati.attiva);
-    chiama({"tre"}); // the voice is free, but something waits
-    EXPECT_FALSE(b.voce.parla());
-    b.annunciatore.Parla("subito");
-    b.voce.tace();
-    EXPECT_THAT(b.diario, ElementsAre("Speak uno -3 80", "Speak subito -3 80"));
-    EXPECT_THAT(b.loggati(), ElementsAre("uno"));
-}
-
-TEST_F(Annuncio, ALogThatCannotBeWrittenFailsTheCall) {
+TEST(Annuncio, ALogThatCannotBeWrittenFailsTheCall) {
+    BancoVoce b;
     std::filesystem::create_directory(b.cartella.percorso() / kFileLogVoce);
-    EXPECT_THROW(chiama({"uno"}), Guasto);
+    EXPECT_THROW(esegui(b, "+uno"), Guasto);
     EXPECT_EQ(b.diario.size(), 1u);
 }
 
-TEST_F(Annuncio, TheOperatorLearnsThatThereIsNoEngine) {
+TEST(Annuncio, TheOperatorLearnsThatThereIsNoEngine) {
+    BancoVoce b;
+    b.annunciatore.ScegliVoce();
     b.voce.manca();
     EXPECT_THAT(b.notifiche,
                 ElementsAre("Sintesi vocale non disponibile: i numeri chiamati non verranno pronunciati."));
