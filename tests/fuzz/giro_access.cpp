@@ -1,5 +1,3 @@
-#include "tests/fuzz/giro_access.h"
-
 #include "data/jet/catalogo.h"
 #include "data/jet/dato.h"
 #include "data/jet/nuovo_archivio.h"
@@ -8,12 +6,13 @@
 #include "data/jet/verifica.h"
 #include "data/lessico.h"
 #include "data/motore.h"
+#include "platform/file.h"
 #include "tests/data/jet/esporta.h"
+#include "tests/fuzz/giri.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <sqlite3.h>
 #include <stdexcept>
@@ -67,8 +66,7 @@ std::string campione() {
     for (std::size_t i = 0; i < righe.size(); i += 9)
         t.elimina(righe[i]);
     pagine.registra();
-    std::ifstream s(file(), std::ios::binary);
-    return {std::istreambuf_iterator<char>(s), {}};
+    return leggiFile(file()).value();
 }
 
 /// Does the damage that the commands ask for.

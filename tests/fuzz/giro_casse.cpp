@@ -1,8 +1,7 @@
-#include "tests/fuzz/giro_casse.h"
-
 #include "links/server_casse.h"
 #include "platform/finti/ascolto_finto.h"
 #include "platform/finti/finti.h"
+#include "tests/fuzz/giri.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -1,7 +1,6 @@
-#include "tests/fuzz/giro_json.h"
-
 #include "links/json_bag.h"
 #include "platform/guasto.h"
+#include "tests/fuzz/giri.h"
 
 #include <stdexcept>
 

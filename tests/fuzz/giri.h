@@ -1,9 +1,22 @@
 #pragma once
 
-#include <string>
 #include <string_view>
 
+/// What the fuzzers throw bytes at. Whatever isn't as told here throws std::logic_error.
 namespace lumigrafo::prova {
+
+/// Reads any text as JSON, with both types of numbers. What can be read must be written, read again and
+/// written to the same text; what cannot must be refused with a failure of the parser's own.
+void giroJson(std::string_view testo);
+
+/// Plays any bytes as a script of what cash desks do to the server: connect, send, close, vanish, also in the
+/// middle of another's request. Each arrival must get the one answer that it deserves, on the connection it
+/// came from, and each number must go to one desk.
+///
+/// A step is a letter and what belongs to it: 'c' connect; 's' slot, length, bytes: send; 'x' slot: close;
+/// 'v' slot: vanish before the next answer; 'd' number of steps: those that follow happen inside the next
+/// request.
+void giroCasse(std::string_view passi);
 
 /// What became of a damaged archive.
 enum class EsitoAccess {
@@ -22,7 +35,7 @@ enum class EsitoAccess {
 ///     t PP OO       the file is cut short
 /// P, Q are pages and O offsets in them, two bytes each, low byte first; too large ones begin anew. Nothing
 /// may fail but with a Guasto, and an archive in which `verifica` finds nothing must stay so when it is
-/// worked on; else std::logic_error is thrown.
+/// worked on.
 EsitoAccess giroAccess(std::string_view dati);
 
 } // namespace lumigrafo::prova
