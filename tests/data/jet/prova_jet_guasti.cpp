@@ -1,49 +1,30 @@
 // What goes wrong outside: a disk that fills up in the midst of a commit, a station that leaves the commit
 // words alone, files that were cut short or whose maps are damaged.
 #include "data/errori_dao.h"
-#include "data/jet/catalogo.h"
 #include "data/jet/dato.h"
 #include "data/jet/mappa.h"
-#include "data/jet/nuovo_archivio.h"
-#include "data/jet/tabella.h"
-#include "data/jet/verifica.h"
 #include "data/verifica_archivio.h"
-#include "tests/sostegno/cartella_temporanea.h"
-#include "tests/sostegno/guasto_atteso.h"
+#include "tests/data/jet/archivio_jet.h"
 
-#include <algorithm>
 #include <csignal>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <sstream>
 #include <sys/resource.h>
 
 namespace lumigrafo::jet {
 namespace {
 
-using prova::guastoDi;
+TabellaNuova conDueIndici(const char* nome) {
+    return {nome,
+            {{"N", Tipo::Lungo}, {"M", Tipo::Lungo}, {"T", Tipo::Testo, 255}},
+            {{.nome = "N", .colonne = {0}, .unico = true}, {.nome = "T", .colonne = {2}}}};
+}
 
-class JetGuasti : public ::testing::Test {
+class JetGuasti : public ConArchivioJet {
 protected:
-    JetGuasti() {
-        std::ofstream(file, std::ios::binary).close();
-        nuovoArchivio(file, 46000);
-        Pagine pagine(file, {.da_soli = true});
-        for (const char* nome : {"Prima", "Seconda"})
-            creaTabella(pagine,
-                        {nome,
-                         {{"N", Tipo::Lungo}, {"M", Tipo::Lungo}, {"T", Tipo::Testo, 255}},
-                         {{.nome = "N", .colonne = {0}, .unico = true}, {.nome = "T", .colonne = {2}}}});
-        pagine.registra();
-        aggiungi(pagine, "Prima", 1, 60);
-        aggiungi(pagine, "Seconda", 1, 60);
-        pagine.registra();
-    }
-    static Tabella tabella(Pagine& pagine, const std::string& nome) {
-        const auto voci = leggiCatalogo(pagine);
-        const auto v =
-            std::find_if(voci.begin(), voci.end(), [&](const VoceCatalogo& x) { return x.nome == nome; });
-        return {pagine, v->definizione};
+    JetGuasti() : ConArchivioJet({conDueIndici("Prima"), conDueIndici("Seconda")}) {
+        cambia([](Pagine& pagine) {
+            aggiungi(pagine, "Prima", 1, 60);
+            aggiungi(pagine, "Seconda", 1, 60);
+        });
     }
     static void aggiungi(Pagine& pagine, const std::string& nome, int da, int fine) {
         Tabella t = tabella(pagine, nome);
@@ -52,18 +33,6 @@ protected:
             t.inserisci({scriviDato(colonne[0], n), scriviDato(colonne[1], std::int64_t{0}),
                          scriviDato(colonne[2], std::string(200, static_cast<char>('a' + n % 26)))});
     }
-    std::vector<std::string> discordanze() const {
-        Pagine pagine(file, {.sola_lettura = true});
-        return verifica(pagine).discordanze;
-    }
-    std::string byte() const {
-        std::ostringstream s;
-        s << std::ifstream(file, std::ios::binary).rdbuf();
-        return s.str();
-    }
-
-    prova::CartellaTemporanea cartella;
-    const std::filesystem::path file = cartella.percorso() / "archivio.mdb";
 };
 
 /// No file of this process grows beyond that many bytes while it lives.
@@ -152,8 +121,7 @@ TEST_F(JetGuasti, UnFileTroncatoFraDuePagineNonPerdeRigheInSilenzio) {
 }
 
 TEST_F(JetGuasti, RiparareUnaMappaDannosaNonToccaLeTabelleAltrui) {
-    {
-        Pagine pagine(file, {.da_soli = true});
+    cambia([](Pagine& pagine) {
         const Definizione prima = tabella(pagine, "Prima").definizione();
         const Definizione seconda = tabella(pagine, "Seconda").definizione();
         pagine.cambia([&] {
@@ -165,8 +133,7 @@ TEST_F(JetGuasti, RiparareUnaMappaDannosaNonToccaLeTabelleAltrui) {
             pagine.modifica(prima.indici[1].radice).scrivi16(24, 900);
             return true;
         });
-        pagine.registra();
-    }
+    });
     // The copy is of the damaged file, also when there is nothing left to mend.
     const auto copia = cartella.percorso() / "prima.mdb";
     EXPECT_FALSE(riparaArchivio(file, copia).empty());

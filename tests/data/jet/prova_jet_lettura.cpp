@@ -53,10 +53,7 @@ TEST(JetChiavi, Testi) {
         {"Ünite", "6f62596d51011300", "909da692aefeecff00"},
         {"ß", "6b6b0100", "9494feff00"},
         {"a-b", "4a4c01010101800b068200", "b5b3fefefefe7ff4f97dff00"},
-        {"dell'orto",
-         "4f515e5e64696d6401010101"
-         "8017068000",
-         "b0aea1a19b96929bfefefefe7fe8f97fff00"},
+        {"dell'orto", "4f515e5e64696d64010101018017068000", "b0aea1a19b96929bfefefefe7fe8f97fff00"},
         {"Coca cola", "4d644d4a074d645e4a0100", "b29bb2b5f8b29ba1b5feff00"},
         {"€ Œ", "35a10764510100", "ca5ef89baefeff00"},
     };
@@ -109,25 +106,15 @@ TEST(JetChiavi, GliAltriTipiSiOrdinanoComeIValori) {
 }
 
 TEST(JetTesto, CompressoEAlternato) {
+    using namespace std::string_literals;
     const std::pair<std::string, const char*> casi[] = {
-        {{"\xFF\xFE"
-          "Bar",
-          5},
-         "Bar"},
-        {{"\xFF\xFE"
-          "caff\xE8",
-          7},
-         "caffè"},
-        {{"\xFF\xFE"
-          "a\0\xA9\x03\0b",
-          8},
-         "aΩb"},
-        {{"\xA9\x03"
-          "b\0",
-          4},
-         "Ωb"},
-        {{"b\0c", 3}, "b"},
-        {{"\x3D\xD8\x00\xDE", 4}, "😀"},
+        // "\377\376": compressed
+        {"\377\376Bar"s, "Bar"},
+        {"\377\376caff\350"s, "caffè"},
+        {"\377\376a\0\251\003\0b"s, "aΩb"},
+        {"\251\003b\0"s, "Ωb"},
+        {"b\0c"s, "b"},
+        {"\075\330\0\336"s, "😀"},
     };
     for (const auto& [byte, testo] : casi)
         EXPECT_EQ(leggiTesto(vista(byte)), testo);

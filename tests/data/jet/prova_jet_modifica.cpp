@@ -1,23 +1,14 @@
 // Changing: random work beside a model in memory, and what a station leaves behind that died while it wrote.
 #include "data/errori_dao.h"
-#include "data/jet/catalogo.h"
 #include "data/jet/dato.h"
-#include "data/jet/nuovo_archivio.h"
 #include "data/jet/ripara.h"
-#include "data/jet/tabella.h"
 #include "data/jet/testo.h"
-#include "data/jet/verifica.h"
+#include "tests/data/jet/archivio_jet.h"
 #include "tests/data/jet/esporta.h"
-#include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/durata.h"
-#include "tests/sostegno/guasto_atteso.h"
 
-#include <algorithm>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <map>
 #include <random>
-#include <sstream>
 
 namespace lumigrafo::jet {
 namespace {
@@ -45,18 +36,11 @@ const TabellaNuova kSchemi[] = {
       {.nome = "Vario", .colonne = {4, 2, 1}}}},
 };
 
-std::uint32_t definizioneDi(Pagine& pagine, const std::string& nome) {
-    for (const VoceCatalogo& v : leggiCatalogo(pagine))
-        if (v.nome == nome)
-            return v.definizione;
-    return 0;
-}
-
 /// Works at random on one table and knows what must be in it.
 class Lavoro {
 public:
-    Lavoro(Pagine& pagine, const std::string& tabella, unsigned seme)
-        : pagine_(pagine), tabella_(pagine, definizioneDi(pagine, tabella)), caso_(seme) {}
+    Lavoro(Tabella tabella, unsigned seme)
+        : pagine_(tabella.pagine()), tabella_(std::move(tabella)), caso_(seme) {}
 
     /// One insert, update or delete; `crescita` of ten are inserts.
     void passo(unsigned crescita) {
@@ -73,6 +57,10 @@ public:
         }
         if (caso_() % 40 == 0)
             pagine_.registra();
+    }
+    void passi(int quanti, unsigned crescita) {
+        for (; quanti > 0; --quanti)
+            passo(crescita);
     }
     void elimina() {
         auto riga = qualunque();
@@ -150,100 +138,74 @@ private:
     std::map<Posizione, Campi> modello_;
 };
 
-class JetModifica : public ::testing::TestWithParam<std::size_t> {
+class JetModifica : public ConArchivioJet, public ::testing::WithParamInterface<std::size_t> {
 protected:
-    JetModifica() {
-        std::ofstream(file, std::ios::binary).close();
-        nuovoArchivio(file, 46000);
-        Pagine pagine(file, {.da_soli = true});
-        creaTabella(pagine, kSchemi[GetParam()]);
-        pagine.registra();
-    }
-    std::string byte() const {
-        std::ostringstream s;
-        s << std::ifstream(file, std::ios::binary).rdbuf();
-        return s.str();
-    }
-    std::vector<std::string> discordanze() const {
-        Pagine pagine(file, {.sola_lettura = true});
-        return verifica(pagine).discordanze;
-    }
+    JetModifica() : ConArchivioJet({kSchemi[GetParam()]}, true) {}
+    Lavoro lavoro(Pagine& pagine, unsigned seme) const { return {tabella(pagine, nome), seme}; }
 
-    prova::CartellaTemporanea cartella = prova::CartellaTemporanea::inMemoria();
-    const std::filesystem::path file = cartella.percorso() / "archivio.mdb";
-    const std::string tabella = kSchemi[GetParam()].nome;
+    const std::string nome = kSchemi[GetParam()].nome;
 };
 INSTANTIATE_TEST_SUITE_P(Schemi, JetModifica, ::testing::Range<std::size_t>(0, std::size(kSchemi)),
                          [](const auto& quale) { return kSchemi[quale.param].nome; });
 
 TEST_P(JetModifica, ACasoAccantoAUnModello) {
     Pagine pagine(file, {});
-    Lavoro lavoro(pagine, tabella, 17);
+    Lavoro aCaso = lavoro(pagine, 17);
     const auto n = static_cast<unsigned>(prova::giri(1500)); // LUMIGRAFO_GIRI=100000 for a long run
     for (unsigned k = 1; k <= n && !HasFatalFailure(); ++k) {
-        lavoro.passo(k < n / 2 ? 7 : 3);
+        aCaso.passo(k < n / 2 ? 7 : 3);
         if (k % 1000 != 0 && k != n)
             continue;
         pagine.registra();
-        lavoro.controlla();
+        aCaso.controlla();
         ASSERT_EQ(discordanze(), std::vector<std::string>()) << k;
-        if (const std::string righe = prova::mdbExport(file.string(), tabella); !righe.empty()) {
-            ASSERT_EQ(prova::righeOrdinate(prova::esporta(pagine, tabella)), prova::righeOrdinate(righe))
-                << k;
+        if (const std::string righe = prova::mdbExport(file.string(), nome); !righe.empty()) {
+            ASSERT_EQ(prova::righeOrdinate(prova::esporta(pagine, nome)), prova::righeOrdinate(righe)) << k;
         }
     }
-    while (lavoro.righe() > 0)
-        lavoro.elimina();
+    while (aCaso.righe() > 0)
+        aCaso.elimina();
     pagine.registra();
-    lavoro.controlla();
+    aCaso.controlla();
     EXPECT_EQ(discordanze(), std::vector<std::string>());
 }
 
 TEST_P(JetModifica, LAnnullamentoNonLasciaTraccia) {
     Pagine pagine(file, {});
-    Lavoro prima(pagine, tabella, 5);
-    for (int k = 0; k < 60; ++k)
-        prima.passo(10);
+    Lavoro prima = lavoro(pagine, 5);
+    prima.passi(60, 10);
     const auto segno = pagine.segno();
-    const auto lavora = [&](unsigned seme) { // no commit among its steps
-        Tabella t(pagine, definizioneDi(pagine, tabella));
+    const auto toglie = [&](unsigned seme) { // no commit among its steps
+        Tabella t = tabella(pagine, nome);
         std::mt19937 caso(seme);
         for (const RigaTrovata& r : t.righe())
             if (caso() % 2)
                 t.elimina(r.posizione);
     };
-    lavora(1);
+    toglie(1);
     pagine.tornaA(segno);
     prima.controlla();
-    lavora(2);
+    toglie(2);
     pagine.tornaA(segno);
     pagine.registra();
     prima.controlla();
     EXPECT_EQ(discordanze(), std::vector<std::string>());
     const std::string byteRegistrati = byte();
-    lavora(3);
+    toglie(3);
     pagine.abbandona();
     EXPECT_EQ(byte(), byteRegistrati);
 }
 
 TEST_P(JetModifica, UnaScritturaAMetaSiRipara) {
     std::mt19937 caso(3);
-    {
+    const auto dopoAltri = [&](unsigned seme, int passi, unsigned crescita) {
         Pagine pagine(file, {});
-        Lavoro lavoro(pagine, tabella, 8);
-        for (int k = 0; k < 150; ++k)
-            lavoro.passo(6);
+        lavoro(pagine, seme).passi(passi, crescita);
         pagine.registra();
-    }
-    const std::string prima = byte();
-    {
-        Pagine pagine(file, {});
-        Lavoro lavoro(pagine, tabella, 9);
-        for (int k = 0; k < 38; ++k) // one transaction for the most part
-            lavoro.passo(10);
-        pagine.registra();
-    }
-    const std::string dopo = byte();
+        return byte();
+    };
+    const std::string prima = dopoAltri(8, 150, 6);
+    const std::string dopo = dopoAltri(9, 38, 10); // one transaction for the most part
     int discordi = 0;
     for (int prova = 0; prova < 12; ++prova) {
         std::string meta = prima;
@@ -260,26 +222,24 @@ TEST_P(JetModifica, UnaScritturaAMetaSiRipara) {
         }
         EXPECT_EQ(discordanze(), std::vector<std::string>());
         Pagine pagine(file, {});
-        Lavoro(pagine, tabella, 10).passo(10); // it can be worked on
+        lavoro(pagine, 10).passo(10); // it can be worked on
     }
     EXPECT_GT(discordi, 0);
 }
 
-TEST(JetVincoli, ChiaviTroppoLungheENulliRichiesti) {
-    const prova::CartellaTemporanea cartella;
-    const auto file = cartella.percorso() / "archivio.mdb";
-    std::ofstream(file, std::ios::binary).close();
-    nuovoArchivio(file, 46000);
+using JetVincoli = ConArchivioJet;
+
+TEST_F(JetVincoli, ChiaviTroppoLungheENulliRichiesti) {
     Pagine pagine(file, {.da_soli = true});
     creaTabella(pagine, {"Righe",
                          {{"A", Tipo::Testo, 255}, {"B", Tipo::Testo, 255}, {"N", Tipo::Lungo}},
                          {{.nome = "Testi", .colonne = {0, 1}},
                           {.nome = "N", .colonne = {2}, .richiesto = true, .ignoraNulli = true}}});
-    Tabella tabella(pagine, definizioneDi(pagine, "Righe"));
+    Tabella righe = tabella(pagine, "Righe");
+    const auto& colonne = righe.definizione().colonne;
     const auto inserisce = [&](const std::string& a, const std::string& b, const Dato& n) {
-        const auto& colonne = tabella.definizione().colonne;
-        return prova::guastoDi([&] {
-            tabella.inserisci(
+        return guastoDi([&] {
+            righe.inserisci(
                 {scriviDato(colonne[0], a), scriviDato(colonne[1], b), scriviDato(colonne[2], n)});
         });
     };

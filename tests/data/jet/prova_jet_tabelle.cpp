@@ -1,61 +1,33 @@
 // What surrounds the rows: rules of a table's design, tables that can't be used or that others keep for
 // themselves, and a file that outgrows its map of free pages.
 #include "data/dao.h"
-#include "data/jet/catalogo.h"
 #include "data/jet/dato.h"
-#include "data/jet/nuova_tabella.h"
 #include "data/jet/spazio.h"
-#include "data/jet/tabella.h"
 #include "data/jet/testo.h"
-#include "data/jet/verifica.h"
 #include "data/schema.h"
 #include "platform/file_condiviso.h"
-#include "tests/sostegno/cartella_temporanea.h"
-#include "tests/sostegno/guasto_atteso.h"
+#include "tests/data/jet/archivio_jet.h"
 
-#include <functional>
-#include <gtest/gtest.h>
 #include <set>
 #include <utility>
 
 namespace lumigrafo::jet {
 namespace {
 
-using prova::guastoDi;
-
-class JetTabelle : public ::testing::Test {
+/// An archive with the program's own tables.
+class JetTabelle : public ConArchivioJet {
 protected:
-    JetTabelle() { creaArchivio(file, Formato::Access); }
-
-    /// Changes the archive with nobody else in it.
-    template <typename Cambio>
-    void cambia(Cambio&& cambio) {
-        Pagine pagine(file, {.da_soli = true});
-        cambio(pagine);
-        pagine.registra();
+    JetTabelle() {
+        std::filesystem::remove(file);
+        creaArchivio(file, Formato::Access);
     }
-    std::uint32_t definizioneDi(const std::string& nome) {
-        Pagine pagine(file, {.da_soli = true});
-        for (const VoceCatalogo& v : leggiCatalogo(pagine))
-            if (v.nome == nome)
-                return v.definizione;
-        return 0;
-    }
-    std::vector<std::string> discordanze() {
-        Pagine pagine(file, {.da_soli = true});
-        return verifica(pagine).discordanze;
-    }
-    static std::string testoDi(const std::function<void()>& azione) {
-        try {
-            azione();
-        } catch (const Guasto& guasto) {
-            return std::to_string(guasto.numero()) + ' ' + guasto.descrizione();
-        }
-        return {};
+    /// Number and text of the failure.
+    template <typename Azione>
+    static std::string testoDi(Azione&& azione) {
+        const auto [numero, testo] = prova::fallimento(azione);
+        return std::to_string(numero) + ' ' + testo;
     }
 
-    prova::CartellaTemporanea cartella;
-    const std::filesystem::path file = cartella.percorso() / kFileArchivio;
     Workspace ws{std::chrono::milliseconds(60)};
 };
 
