@@ -2,19 +2,13 @@
 #include "data/istruzioni.h"
 #include "data/jet/nuova_tabella.h"
 #include "data/jet/pagine.h"
+#include "platform/file.h"
 #include "platform/finti/finti.h"
+#include "tests/data/con_archivio.h"
 #include "tests/data/stazione.h"
-#include "tests/sostegno/archivio_prova.h"
-#include "tests/sostegno/cartella_temporanea.h"
-#include "tests/sostegno/guasto_atteso.h"
-
-#include <fstream>
-#include <gtest/gtest.h>
 
 namespace lumigrafo {
 namespace {
-
-using prova::guastoDi;
 
 /// Lets a test act while the program waits.
 class OrologioConAzione : public OrologioFinto {
@@ -28,7 +22,7 @@ public:
     }
 };
 
-class ClsRecordset : public ::testing::Test {
+class ClsRecordset : public ConArchivio {
 protected:
     void apriCoda() { rs.Apri("prova", false, istruzioni::kLumigrafo, false, false); }
     std::string percorso(const std::string& nome) const { return (cartella.percorso() / nome).string(); }
@@ -36,15 +30,12 @@ protected:
     /// The only box shown; the program ended behind it if `azione` doesn't come back.
     template <typename Azione>
     Avviso ultimoAvviso(Azione&& azione) {
+        avvisi.mostrati.clear();
         EXPECT_THROW(azione(), FineProcesso);
         EXPECT_EQ(avvisi.mostrati.size(), 1u);
         return avvisi.mostrati.empty() ? Avviso{} : avvisi.mostrati.back();
     }
 
-    prova::CartellaTemporanea cartella;
-    prova::ArchivioProva archivio{cartella.percorso() / kFileArchivio};
-    Workspace ws{std::chrono::milliseconds(50)};
-    std::unique_ptr<Database> db = ws.OpenDatabase(percorso(kFileArchivio));
     OrologioConAzione orologio;
     AvvisiFinti avvisi;
     UscitaFinta uscita;
@@ -80,6 +71,12 @@ TEST_F(ClsRecordset, CodiciDiLetturaERicerca) {
     EXPECT_TRUE(rs.ilRecordset().Eof());
     rs.AzzeraErrore();
     EXPECT_EQ(rs.Errore(), 0);
+
+    archivio.ordine(std::nullopt, 5, {{1, 1}});
+    archivio.ordine("", 5, {{1, 4}});
+    apriCoda();
+    EXPECT_TRUE(rs.Start("prova", "Sigla", "=", "''", "Numero", "=", "5"));
+    EXPECT_EQ(rs.ilRecordset().Fields()["Pezzi1"].Value().aIntero16(), 4); // not the row with a null letter
     EXPECT_TRUE(avvisi.mostrati.empty());
 }
 
@@ -125,25 +122,19 @@ TEST_F(ClsRecordset, UnGuastoDellArchivioTerminaIlProgramma) {
     EXPECT_EQ(apri.testo.find("Errore nel metodo Apri (tabella:Manca ) chiamato da ChiApre\r\n3078 "), 0u);
     EXPECT_EQ(apri.titolo, "clsRecordset");
     EXPECT_EQ(apri.icona, Icona::Critica);
-}
 
-TEST_F(ClsRecordset, TestiDeiGuasti) {
     archivio.ordine("A", 1, {{1, 1}});
     apriCoda();
     EXPECT_EQ(ultimoAvviso([&] { rs.Start("ChiCerca", "Sigla", "=", "'''", "Numero", "=", "1"); }).testo,
               "Errore nel metodo Start chiamato da ChiCerca\r\nSigla = ''' and Numero = 1\r\n3077 Errore di "
               "sintassi "
               "(operatore mancante) nell'espressione.");
-    avvisi.mostrati.clear();
     rs.LeggiNext("prova");
     const std::string coda =
         std::string("\r\nRecordset:") + istruzioni::kLumigrafo + "\r\n3021 Nessun record corrente.";
-    EXPECT_EQ(ultimoAvviso([&] { rs.LeggiNext("ChiLegge"); }).testo,
-              "Errore nel metodo LeggiNext chiamato da ChiLegge" + coda);
-    avvisi.mostrati.clear();
-    EXPECT_EQ(ultimoAvviso([&] { rs.LeggiNext(""); }).testo,
-              "Errore nel metodo LeggiNext chiamato da prova" + coda);
-    avvisi.mostrati.clear();
+    for (const auto& [detto, nome] : {std::pair{"ChiLegge", "ChiLegge"}, {"", "prova"}}) // "": who opened it
+        EXPECT_EQ(ultimoAvviso([&, chi = detto] { rs.LeggiNext(chi); }).testo,
+                  std::string("Errore nel metodo LeggiNext chiamato da ") + nome + coda);
     rs.Apri("prova", true, istruzioni::kSommaPezzi, false, true);
     EXPECT_EQ(ultimoAvviso([&] { rs.CancellazioneRecordSet("ChiCancella"); }).testo,
               std::string("Errore nel metodo CancellazioneRecordset chiamato da ChiCancella\r\nRecordset:") +
@@ -171,8 +162,7 @@ TEST_F(ClsRecordset, IlBloccoTieneFuoriGliAltri) {
     rs.Apri("prova", false, "Categorie", true, false);
     EXPECT_EQ(rs.Errore(), 0);
     EXPECT_TRUE(esiste("Categorie.txt"));
-    std::ifstream nota(percorso("user_Categorie.txt"), std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(nota), {}), "mario\r\n");
+    EXPECT_EQ(leggiFile(percorso("user_Categorie.txt")), "mario\r\n");
 
     clsRecordset secondo(contesto);
     secondo.Apri("prova", false, "Categorie", true, false);
@@ -227,25 +217,6 @@ TEST_F(ClsRecordset, UnBloccoImpossibileTerminaIlProgramma) {
     EXPECT_EQ(avviso.titolo, "Errore");
     EXPECT_EQ(avviso.icona, Icona::Critica);
     EXPECT_EQ(avviso.testo.find("Errore in BloccaSblocca aprendo Numero.txt\r\n76 "), 0u);
-}
-
-TEST_F(ClsRecordset, ChiamataERipristinoDiUnNumero) {
-    archivio.ordine(std::nullopt, 5, {{1, 1}});
-    archivio.ordine("", 5, {{1, 4}, {2, 1}});
-    apriCoda();
-    ASSERT_TRUE(rs.Start("AggiornaGridDB", "Sigla", "=", "''", "Numero", "=", "5"));
-    Recordset& r = rs.ilRecordset();
-    EXPECT_EQ(r.Fields()["Pezzi1"].Value().aIntero16(), 4); // not the row with a null letter
-    r.Edit();
-    r.Fields()["Categoria1"].Value(false);
-    r.Fields()["Pezzi1"].Value(0);
-    r.Update();
-    EXPECT_TRUE(r.Fields()["Categoria2"].Value().aBooleano());
-    EXPECT_EQ(archivio.leggi("SELECT quote(Sigla), Categoria1, Pezzi1 FROM Lumigrafo ORDER BY Sigla"),
-              "NULL|-1|1 ''|0|0");
-    r.Delete();
-    rs.Chiudi();
-    EXPECT_EQ(archivio.leggi("SELECT quote(Sigla) FROM Lumigrafo"), "NULL");
 }
 
 } // namespace

@@ -1,24 +1,14 @@
-#include "data/dao.h"
 #include "data/istruzioni.h"
-#include "tests/sostegno/archivio_prova.h"
-#include "tests/sostegno/cartella_temporanea.h"
-
-#include <gtest/gtest.h>
+#include "tests/data/con_archivio.h"
 
 namespace lumigrafo {
 namespace {
 
 constexpr std::int32_t kOggi = 20260315;
 
-class Istruzioni : public ::testing::Test {
+class Istruzioni : public ConArchivio {
 protected:
     std::unique_ptr<Recordset> apri(const std::string& sorgente) { return db->OpenRecordset(sorgente); }
-
-    prova::CartellaTemporanea cartella;
-    const std::filesystem::path file = cartella.percorso() / kFileArchivio;
-    prova::ArchivioProva archivio{file};
-    Workspace ws;
-    std::unique_ptr<Database> db = ws.OpenDatabase(file.string());
 };
 
 TEST_F(Istruzioni, LetturaDellaCoda) {

@@ -42,6 +42,15 @@ std::string inMostra(const std::string& cella) {
     return spazi == std::string::npos ? cella : cella.substr(0, spazi) + cella.substr(spazi + 1);
 }
 
+std::string ordineDi(const std::string& cella) {
+    return "Sigla = '" + cella.substr(0, 1) + "' AND Numero = " + cella.substr(3);
+}
+
+void impostaReparti(const FileIni& impostazioni, int quanti) {
+    for (int q = 0; q < quanti; ++q)
+        impostazioni.ScriviIni(kSezioneImpostazioni, "Categoria" + std::to_string(q), q + 1);
+}
+
 StatoSalvato StatoSalvato::leggi(const std::filesystem::path& cartella) {
     StatoSalvato stato;
     Chiavi videata, ultimi;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/ini/ini.h"
+
 #include <array>
 #include <filesystem>
 #include <string>
@@ -30,5 +32,9 @@ struct StatoSalvato {
 
 /// The text of a cell ("A  12") as it stands on the board ("A 12").
 [[nodiscard]] std::string inMostra(const std::string& cella);
+/// The condition that finds a cell's order in any table.
+[[nodiscard]] std::string ordineDi(const std::string& cella);
+/// So many departments, with the categories from 1 on.
+void impostaReparti(const FileIni& impostazioni, int quanti);
 
 } // namespace lumigrafo::prova

@@ -25,16 +25,10 @@ void di(const std::string& riga) {
 /// Every third call comes from the scanner.
 void chiama(Banco& banco, int q, const std::string& cella, bool scanner) {
     di("chiamo|" + std::to_string(q) + "|" + cella);
-    if (scanner) {
-        const std::string numero = cella.substr(cella.find_last_of(' ') + 1);
-        const std::string codice = "599" + std::to_string(static_cast<int>(cella[0])) + "0" +
-                                   std::to_string(q + 1) + std::string(5 - numero.size(), '0') + numero +
-                                   "0\r";
-        for (const char tasto : codice)
-            (void)banco.console().tasto(static_cast<unsigned char>(tasto));
-    } else {
+    if (scanner)
+        banco.digita(codiceScontrino(q, cella) + "\r");
+    else
         banco.clic(q, cella);
-    }
     di("fatto");
 }
 

@@ -1,7 +1,7 @@
-#include "settings/ini/ini.h"
-#include "tests/e2e/processo.h"
+#include "tests/e2e/modello.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/processo.h"
 
 #include <chrono>
 #include <csignal>
@@ -26,23 +26,18 @@ void moltiOrdini(ArchivioProva& archivio, int ordini) {
         "Pezzi3) SELECT char(65 + i % 5), i, -1, 2, -(i % 2), 1, -(i % 3 = 0), 4 FROM n");
 }
 
-void categorie(const FileIni& ini, int quante) {
-    for (int q = 0; q < quante; ++q)
-        ini.ScriviIni(kSezioneImpostazioni, "Categoria" + std::to_string(q), q + 1);
-}
-
 const Caso kCasi[] = {
-    {"vuoto", [](ArchivioProva&, const FileIni& ini) { categorie(ini, 3); }},
+    {"vuoto", [](ArchivioProva&, const FileIni& ini) { impostaReparti(ini, 3); }},
     {"ordini5000Righe50",
      [](ArchivioProva& a, const FileIni& ini) {
          moltiOrdini(a, 5000);
-         categorie(ini, 3);
+         impostaReparti(ini, 3);
          ini.ScriviIni(kSezioneImpostazioni, "NumeroMassimoRighe", 50);
      }},
     {"ordini5000Righe400",
      [](ArchivioProva& a, const FileIni& ini) {
          moltiOrdini(a, 5000);
-         categorie(ini, 1);
+         impostaReparti(ini, 1);
          ini.ScriviIni(kSezioneImpostazioni, "NumeroMassimoRighe", 400);
      }},
     {"lettereEPezziNulliOMinuscoli",
@@ -53,7 +48,7 @@ const Caso kCasi[] = {
          a.ordine("B", 4, {{3, 1}});
          a.esegui("UPDATE Lumigrafo SET Pezzi1 = NULL, Pezzi2 = NULL, Pezzi3 = NULL");
          a.esegui("INSERT INTO Numero (Numero) VALUES (NULL)");
-         categorie(ini, 3);
+         impostaReparti(ini, 3);
      }},
     {"senzaImpostazioni",
      [](ArchivioProva& a, const FileIni&) {

@@ -14,20 +14,13 @@ constexpr unsigned kSeme = 20260315;
 constexpr int kScrittureAlSecondo = 60;
 constexpr int kChiamateAlmeno = 20;
 
-std::string codice(int quadrante, const std::string& cella) {
-    const std::string numero = cella.substr(3);
-    return "599" + std::to_string(static_cast<int>(cella[0])) + "0" + std::to_string(quadrante + 1) +
-           std::string(5 - numero.size(), '0') + numero + "0\r";
-}
-
 /// The console's logic on a real archive that one or three other processes write to all the while.
 class Carico : public testing::TestWithParam<int> {};
 INSTANTIATE_TEST_SUITE_P(Casse, Carico, testing::Values(1, 3));
 
 TEST_P(Carico, chiamaDepennaERipristinaMentreAltriProcessiScrivono) {
     Banco b;
-    for (int q = 0; q < 3; ++q)
-        b.imposta(("Categoria" + std::to_string(q)).c_str(), q + 1);
+    b.reparti({1, 2, 3});
     b.imposta("NumeroMassimoRighe", 4000);
     b.caricata();
     Registro registro(b.cartella.percorso() / "archivio.mdb", b.archivio.dataCompetenza, GetParam(),
@@ -36,7 +29,7 @@ TEST_P(Carico, chiamaDepennaERipristinaMentreAltriProcessiScrivono) {
     int ricostruzioni = 0;
     const auto ricostruisci = [&] {
         const auto prima = registro.primaDiRicostruire();
-        b.console().clic("cmdAggiorna", -1);
+        b.premi("cmdAggiorna");
         ++ricostruzioni;
         for (int q = 0; q < 3; ++q)
             ASSERT_EQ(registro.controllaGriglia(prima, q, b.celle(q)), "") << "quadrant " << q;
@@ -50,8 +43,7 @@ TEST_P(Carico, chiamaDepennaERipristinaMentreAltriProcessiScrivono) {
             return;
         registro.chiama(q, cella);
         if (caso() % 3 == 0)
-            for (const char tasto : codice(q, cella))
-                (void)b.console().tasto(static_cast<unsigned char>(tasto));
+            b.digita(codiceScontrino(q, cella) + "\r");
         else
             b.clic(q, cella);
         registro.chiamato(q, cella);

@@ -1,18 +1,18 @@
 #include "announce/log.h"
 #include "links/server_casse.h"
+#include "platform/file.h"
 #include "settings/ini/ini.h"
-#include "tests/e2e/processo.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/cliente_nudo.h"
 #include "tests/sostegno/durata.h"
+#include "tests/sostegno/processo.h"
 
 #include <algorithm>
 #include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
 #include <memory>
 #include <numeric>
 #include <set>
@@ -59,8 +59,7 @@ protected:
         }
     }
     [[nodiscard]] std::string registro() const {
-        std::ifstream file(cartella.percorso() / kFileLogConnessioni);
-        return {std::istreambuf_iterator<char>(file), {}};
+        return leggiFile(cartella.percorso() / kFileLogConnessioni).value_or("");
     }
     [[nodiscard]] bool accendi() {
         std::filesystem::remove(cartella.percorso() / kFileLogConnessioni);

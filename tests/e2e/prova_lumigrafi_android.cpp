@@ -1,19 +1,13 @@
 #include "tests/e2e/stazione.h"
+#include "tests/sostegno/cliente_nudo.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <random>
 
 namespace lumigrafo::prova {
 namespace {
 
 using namespace std::chrono_literals;
-
-/// An address of this machine that no other test uses.
-std::string indirizzoLocale() {
-    std::random_device caso;
-    return "127." + std::to_string(caso() % 254 + 1) + "." + std::to_string(caso() % 256) + ".1";
-}
 
 /// A remote board in a terminal.
 class Remoto {
@@ -32,14 +26,13 @@ private:
     Processo processo_;
 };
 
-TEST(LumigrafiAndroid, unNumeroChiamatoArrivaAiLumigrafiRemotiAncheSeUnoEGuasto) {
-    if (!Schermo::possibile())
-        GTEST_SKIP() << "needs Xvfb, openbox, xrandr, xdotool, xprop and ImageMagick";
+using LumigrafiAndroid = ConSchermo;
+
+TEST_F(LumigrafiAndroid, unNumeroChiamatoArrivaAiLumigrafiRemotiAncheSeUnoEGuasto) {
     const std::string spento = indirizzoLocale(), acceso = indirizzoLocale();
     Remoto remoto(acceso);
     ASSERT_EQ(remoto.documento().size(), 1u); // it listens
-    Schermo schermo;
-    Stazione s(schermo);
+    Stazione s(*schermo);
     s.archivio.ordine("A", 1, {{1, 2}});
     s.archivio.ordine("A", 2, {{2, 3}});
     const FileIni ini(s.cartella.percorso() / kFileImpostazioni);
@@ -51,14 +44,14 @@ TEST(LumigrafiAndroid, unNumeroChiamatoArrivaAiLumigrafiRemotiAncheSeUnoEGuasto)
               (Righe{"Stiamo servendo i numeri", "  Cucina   :", "  Bar      :", "  Pizzeria :"}));
 
     const auto notifiche = [&] {
-        const auto senzaTitolo = schermo.finestre(s.programma().pid(), "");
+        const auto senzaTitolo = schermo->finestre(s.programma().pid(), "");
         return std::count_if(senzaTitolo.begin(), senzaTitolo.end(), [](const FinestraX& f) {
             return f.posto.x < Schermo::kLarghezza && f.posto.larghezza < Schermo::kLarghezza / 2;
         });
     };
     EXPECT_TRUE(attendiChe(5s, [&] { return notifiche() == 1; }));
     // The notice stands there, and the scanner still types into the console.
-    schermo.digita(codiceScontrino(1, "A  2") + "\r");
+    schermo->digita(codiceScontrino(1, "A  2") + "\r");
     EXPECT_EQ(remoto.documento(),
               (Righe{"Stiamo servendo i numeri", "  Cucina   :", "> Bar      :  A 2", "  Pizzeria :"}));
     s.clic(0, 0, 0);

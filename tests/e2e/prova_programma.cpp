@@ -12,15 +12,8 @@ namespace {
 using namespace std::chrono_literals;
 
 /// The program itself on a display with two monitors.
-class Programma : public testing::Test {
+class Programma : public ConSchermo {
 protected:
-    std::unique_ptr<Schermo> schermo;
-
-    void SetUp() override {
-        if (!Schermo::possibile())
-            GTEST_SKIP() << "needs Xvfb, openbox, xrandr, xdotool, xprop and ImageMagick";
-        schermo = std::make_unique<Schermo>();
-    }
     bool vede(const Processo& p, const char* titolo, std::chrono::milliseconds limite = 10s) {
         return attendiChe(limite, [&] { return !schermo->finestre(p.pid(), titolo).empty(); });
     }

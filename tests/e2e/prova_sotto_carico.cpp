@@ -17,18 +17,16 @@ using namespace std::chrono_literals;
 constexpr unsigned kSeme = 20260315;
 
 /// The program itself under touches and scans.
-class SottoCarico : public testing::Test {
+class SottoCarico : public ConSchermo {
 protected:
-    std::unique_ptr<Schermo> schermo;
     std::unique_ptr<Stazione> s;
     std::mt19937 caso{kSeme};
     std::array<std::array<std::string, StatoSalvato::kUltimi>, 3> liste; ///< as far as they were taken in
 
     void SetUp() override {
-        if (!Schermo::possibile())
-            GTEST_SKIP() << "needs Xvfb, openbox, xrandr, xdotool, xprop and ImageMagick";
-        schermo = std::make_unique<Schermo>();
-        s = std::make_unique<Stazione>(*schermo);
+        ConSchermo::SetUp();
+        if (schermo)
+            s = std::make_unique<Stazione>(*schermo);
     }
 
     /// Numbers called in a quadrant since the last look, oldest first. One can be called twice: the new
@@ -54,15 +52,15 @@ protected:
     void segui(Registro& registro) {
         for (std::size_t q = 0; q < 3; ++q)
             for (const std::string& cella : nuovi(q)) {
-                EXPECT_TRUE(attendiChe(
-                    10s,
-                    [&] {
-                        registro.aggiorna();
-                        return registro.annullato(cella) ||
-                               s->archivio.leggi("SELECT SERVITO FROM DettaglioLumigrafo WHERE Sigla = '" +
-                                                 cella.substr(0, 1) + "' AND Numero = " + cella.substr(3) +
-                                                 " AND CATEGORIA = " + std::to_string(q + 1)) == "-1";
-                    }))
+                EXPECT_TRUE(attendiChe(10s,
+                                       [&] {
+                                           registro.aggiorna();
+                                           return registro.annullato(cella) ||
+                                                  s->archivio.leggi(
+                                                      "SELECT SERVITO FROM DettaglioLumigrafo WHERE " +
+                                                      ordineDi(cella) +
+                                                      " AND CATEGORIA = " + std::to_string(q + 1)) == "-1";
+                                       }))
                     << cella << " was called and not struck off";
                 registro.chiamato(static_cast<int>(q), cella);
             }

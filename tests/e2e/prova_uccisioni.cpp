@@ -1,11 +1,10 @@
 #include "data/dao.h"
 #include "data/verifica_archivio.h"
-#include "settings/ini/ini.h"
 #include "tests/e2e/modello.h"
-#include "tests/e2e/processo.h"
 #include "tests/sostegno/archivio_prova.h"
 #include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/durata.h"
+#include "tests/sostegno/processo.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -41,8 +40,7 @@ protected:
 
     void SetUp() override {
         const FileIni ini(cartella.percorso() / kFileImpostazioni);
-        for (int q = 0; q < 3; ++q)
-            ini.ScriviIni(kSezioneImpostazioni, "Categoria" + std::to_string(q), q + 1);
+        impostaReparti(ini, 3);
         ini.ScriviIni(kSezioneImpostazioni, "NumeroMassimoRighe", 400);
     }
 

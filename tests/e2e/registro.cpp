@@ -1,5 +1,7 @@
 #include "tests/e2e/registro.h"
 
+#include "tests/e2e/modello.h"
+
 #include <csignal>
 #include <sstream>
 
@@ -17,22 +19,14 @@ std::vector<std::string> campi(const std::string& riga, char fra) {
     return pezzi;
 }
 
-std::string dove(const std::string& cella) {
-    return "Sigla = '" + cella.substr(0, 1) + "' AND Numero = " + cella.substr(3);
-}
-
 } // namespace
 
 Registro::Registro(const std::filesystem::path& archivio, const std::string& data, int casse,
                    int scrittureAlSecondo, unsigned seme) {
     for (int i = 0; i < casse; ++i) {
-        const std::vector<std::string> comando{CASSA_AGITATA,
-                                               archivio.string(),
-                                               data,
-                                               std::to_string(scrittureAlSecondo / casse),
-                                               std::to_string(seme + static_cast<unsigned>(i)),
-                                               std::string(1, static_cast<char>('A' + 3 * i))};
-        casse_.emplace_back(comando);
+        casse_.emplace_back(std::vector<std::string>{
+            CASSA_AGITATA, archivio.string(), data, std::to_string(scrittureAlSecondo / casse),
+            std::to_string(seme + static_cast<unsigned>(i)), std::string(1, static_cast<char>('A' + 3 * i))});
     }
 }
 
@@ -163,12 +157,13 @@ std::string Registro::controllaOrdine(ArchivioProva& archivio, const std::string
         servito |= chiamata.annulloDopo == Fase::No;
         incerto |= chiamata.annulloDopo != Fase::No && chiamata.annulloPrima != Fase::Fatto;
     }
-    const std::string scontrino = archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE " + dove(cella));
+    const std::string scontrino =
+        archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE " + ordineDi(cella));
     if (servito && scontrino != "-1")
         guasti += "called, and its receipt isn't served; ";
     if (!servito && !incerto && scontrino != "0")
         guasti += "not called, and its receipt is served; ";
-    const bool inCoda = archivio.leggi("SELECT count(*) FROM Lumigrafo WHERE " + dove(cella)) == "1";
+    const bool inCoda = archivio.leggi("SELECT count(*) FROM Lumigrafo WHERE " + ordineDi(cella)) == "1";
     const bool chiuso = ordine.chiamate.size() == ordine.pezzi.size();
     if (inCoda == (ordine.annullo == Fase::Fatto || chiuso))
         guasti += inCoda ? "still in the queue; " : "lost from the queue; ";
@@ -177,10 +172,10 @@ std::string Registro::controllaOrdine(ArchivioProva& archivio, const std::string
         const std::string c = std::to_string(categoria);
         const std::string attesi = chiamata ? "0|0" : "-1|" + pezzi;
         if (inCoda && archivio.leggi("SELECT Categoria" + c + ", ifnull(Pezzi" + c +
-                                     ", 0) FROM Lumigrafo WHERE " + dove(cella)) != attesi)
+                                     ", 0) FROM Lumigrafo WHERE " + ordineDi(cella)) != attesi)
             guasti += "category " + c + " isn't " + attesi + "; ";
         const std::string riga = archivio.leggi("SELECT SERVITO FROM DettaglioLumigrafo WHERE " +
-                                                dove(cella) + " AND CATEGORIA = " + c);
+                                                ordineDi(cella) + " AND CATEGORIA = " + c);
         if (!incerto && ordine.annullo == Fase::No && riga != (chiamata ? "-1" : "0"))
             guasti += "the detail line of category " + c + " is " + riga + "; ";
     }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "tests/e2e/processo.h"
 #include "tests/sostegno/archivio_prova.h"
+#include "tests/sostegno/processo.h"
 
 #include <chrono>
 #include <deque>

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "forms/scala.h"
-#include "tests/e2e/processo.h"
+#include "tests/sostegno/processo.h"
 
 #include <chrono>
+#include <gtest/gtest.h>
 #include <memory>
 #include <optional>
 #include <string>
@@ -47,6 +48,18 @@ private:
 
     std::unique_ptr<Processo> xvfb_, openbox_;
     std::string display_;
+};
+
+/// A test on such a display; skipped where there can be none.
+class ConSchermo : public testing::Test {
+protected:
+    std::unique_ptr<Schermo> schermo;
+
+    void SetUp() override {
+        if (!Schermo::possibile())
+            GTEST_SKIP() << "needs Xvfb, openbox, xrandr, xdotool, xprop and ImageMagick";
+        schermo = std::make_unique<Schermo>();
+    }
 };
 
 } // namespace lumigrafo::prova

@@ -1,6 +1,7 @@
 #include "tests/e2e/stazione.h"
 
 #include "console/layout_frmGestione.h"
+#include "tests/e2e/modello.h"
 
 #include <algorithm>
 #include <ctime>
@@ -52,9 +53,8 @@ constexpr int kAltezzaMinimaRiga = 48;
 Stazione::Stazione(const Schermo& schermo) : schermo_(schermo) {
     archivio.dataCompetenza = oggi();
     std::ofstream(cartella.percorso() / ".sonoindebug");
-    for (int q = 0; q < 3; ++q)
-        imposta(("Categoria" + std::to_string(q)).c_str(), q + 1);
     const FileIni ini(cartella.percorso() / kFileImpostazioni);
+    impostaReparti(ini, 3);
     for (const auto& [chiave, pixel] : {std::pair{"Left", Schermo::kLarghezza},
                                         {"Top", 0},
                                         {"Width", Schermo::kLarghezza},
@@ -128,14 +128,7 @@ std::string Stazione::ultimoChiamato(int quadrante) const {
 }
 
 std::string Stazione::servito(const std::string& cella) {
-    return archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE Sigla = '" + cella.substr(0, 1) +
-                          "' AND Numero = " + cella.substr(3));
-}
-
-std::string codiceScontrino(int quadrante, const std::string& cella) {
-    const std::string numero = cella.substr(3);
-    return "599" + std::to_string(static_cast<int>(cella[0])) + "0" + std::to_string(quadrante + 1) +
-           std::string(5 - numero.size(), '0') + numero + "0";
+    return archivio.leggi("SELECT Servito FROM ScontriniEmessi WHERE " + ordineDi(cella));
 }
 
 } // namespace lumigrafo::prova

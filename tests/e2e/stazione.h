@@ -45,7 +45,4 @@ private:
     std::unique_ptr<Processo> programma_;
 };
 
-/// The receipt barcode of a cell's order ("A  12") in a quadrant.
-[[nodiscard]] std::string codiceScontrino(int quadrante, const std::string& cella);
-
 } // namespace lumigrafo::prova

@@ -2,6 +2,7 @@
 #include "platform/finti/finti.h"
 #include "platform/linux/cliente_tcp.h"
 #include "tests/sostegno/cartella_temporanea.h"
+#include "tests/sostegno/cliente_nudo.h"
 
 #include <arpa/inet.h>
 #include <atomic>
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <poll.h>
-#include <random>
 #include <stdexcept>
 #include <sys/socket.h>
 #include <thread>
@@ -21,13 +21,6 @@ namespace lumigrafo::prova {
 namespace {
 
 using namespace std::chrono_literals;
-
-/// A loopback address of its own, so that tests that run at one time don't meet.
-std::string indirizzoLocale() {
-    static std::random_device caso;
-    return "127." + std::to_string(caso() % 254 + 1) + "." + std::to_string(caso() % 256) + "." +
-           std::to_string(caso() % 254 + 1);
-}
 
 /// A board on the network, at an address of this machine and the link's port.
 class LumigrafoVero {

@@ -104,6 +104,12 @@ std::string ArchivioProva::discordanze() const {
     return tutte;
 }
 
+std::string codiceScontrino(int quadrante, const std::string& cella) {
+    const std::string numero = cella.substr(3);
+    return "599" + std::to_string(static_cast<int>(cella[0])) + "0" + std::to_string(quadrante + 1) +
+           std::string(5 - numero.size(), '0') + numero + "0";
+}
+
 std::string ArchivioProva::coda() {
     return leggi("SELECT coalesce(Sigla, '') || Numero FROM Lumigrafo ORDER BY Sigla, Numero");
 }

@@ -49,4 +49,8 @@ private:
     sqlite3* db_ = nullptr; ///< the engine's
 };
 
+/// The receipt barcode of a cell's order ("A  12") in a quadrant, whose category is the quadrant's number
+/// + 1.
+[[nodiscard]] std::string codiceScontrino(int quadrante, const std::string& cella);
+
 } // namespace lumigrafo::prova

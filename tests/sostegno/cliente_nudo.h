@@ -3,6 +3,7 @@
 #include <arpa/inet.h>
 #include <fcntl.h>
 #include <netinet/in.h>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -11,6 +12,13 @@
 #include <unistd.h>
 
 namespace lumigrafo::prova {
+
+/// A loopback address of its own, so that tests that run at one time don't meet.
+inline std::string indirizzoLocale() {
+    static std::random_device caso;
+    return "127." + std::to_string(caso() % 254 + 1) + "." + std::to_string(caso() % 256) + "." +
+           std::to_string(caso() % 254 + 1);
+}
 
 /// The bare other side of a TCP connection on this machine. It waits for nothing, unless asked to.
 class ClienteNudo {

@@ -14,7 +14,7 @@ namespace lumigrafo::prova {
 /// Tries until it is true. False where the time ran out first.
 [[nodiscard]] bool attendiChe(std::chrono::milliseconds limite, const std::function<bool()>& vero);
 
-/// Another program, started by a test and ended with it. Its output comes through a pipe.
+/// Another program, started by a test and ended with it. Its input and its output are pipes.
 class Processo {
 public:
     using Ambiente = std::vector<std::pair<std::string, std::string>>;
@@ -33,6 +33,8 @@ public:
     /// SIGKILL, and waits for its end.
     void uccidi();
 
+    /// Writes a line to its input. Throws where it reads no more.
+    void manda(const std::string& riga) const;
     /// The next line of its output, without the line break; nothing at its end or after that time.
     [[nodiscard]] std::optional<std::string> riga(std::chrono::milliseconds limite);
     /// All of its output that hasn't been read. Waits for its end.
@@ -42,7 +44,7 @@ private:
     [[nodiscard]] bool leggi(std::chrono::milliseconds limite);
 
     pid_t pid_ = -1;
-    int uscita_ = -1;
+    int ingresso_ = -1, uscita_ = -1;
     std::string letto_;
     std::optional<int> esito_;
 };

@@ -1,4 +1,4 @@
-#include "tests/e2e/processo.h"
+#include "tests/sostegno/processo.h"
 
 #include <algorithm>
 #include <csignal>
@@ -27,12 +27,14 @@ bool attendiChe(std::chrono::milliseconds limite, const std::function<bool()>& v
 }
 
 Processo::Processo(const std::vector<std::string>& comando, const Ambiente& variabili) {
-    int tubo[2];
-    if (::pipe2(tubo, O_CLOEXEC) != 0)
+    int tubo[2], ingresso[2];
+    // Closed on exec: a second program must not hold the pipes of the first.
+    if (::pipe2(tubo, O_CLOEXEC) != 0 || ::pipe2(ingresso, O_CLOEXEC) != 0)
         throw std::runtime_error("pipe");
     pid_ = ::fork();
     if (pid_ == 0) {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL); // a test that is broken off leaves nobody behind
+        ::dup2(ingresso[0], STDIN_FILENO);
         ::dup2(tubo[1], STDOUT_FILENO);
         for (const auto& [nome, valore] : variabili)
             ::setenv(nome.c_str(), valore.c_str(), 1);
@@ -43,7 +45,9 @@ Processo::Processo(const std::vector<std::string>& comando, const Ambiente& vari
         ::execvp(argomenti[0], argomenti.data());
         ::_exit(127);
     }
+    ::close(ingresso[0]);
     ::close(tubo[1]);
+    ingresso_ = ingresso[1];
     uscita_ = tubo[0];
     if (pid_ < 0)
         throw std::runtime_error("fork");
@@ -51,6 +55,7 @@ Processo::Processo(const std::vector<std::string>& comando, const Ambiente& vari
 
 Processo::~Processo() {
     uccidi();
+    ::close(ingresso_);
     ::close(uscita_);
 }
 
@@ -76,6 +81,12 @@ std::optional<int> Processo::fine(std::chrono::milliseconds limite) {
 void Processo::uccidi() {
     segnala(SIGKILL);
     (void)fine(10s);
+}
+
+void Processo::manda(const std::string& riga) const {
+    const std::string testo = riga + "\n";
+    if (::write(ingresso_, testo.data(), testo.size()) != static_cast<ssize_t>(testo.size()))
+        throw std::runtime_error("it reads no more");
 }
 
 bool Processo::leggi(std::chrono::milliseconds limite) {
