@@ -4,7 +4,6 @@
 #include <cfloat>
 #include <clocale>
 #include <cmath>
-#include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
@@ -69,6 +68,9 @@ TEST(JsonNumeri, ReadInBothModes) {
         {"0." + std::string(400, '0') + "1e401", "1", "1"},
         {"1e3.4", "6", "6"},
         {"1e5+3", "6", "6"},
+        {"1E", "6", "6"},
+        {"1E+", "6", "6"},
+        {"1E3-", "6", "6"},
     };
     for (const auto& [testo, doppio, decimale] : casi) {
         EXPECT_EQ(riscritto(testo, false), doppio) << testo;

@@ -149,6 +149,7 @@ TEST_F(ReteCasse, aPortThatIsTakenIsTold) {
     ASSERT_EQ(avvisi.mostrati.size(), 1u);
     EXPECT_EQ(avvisi.mostrati[0].testo,
               "Errore apertura winsock 10048 Controllare porta " + std::to_string(server->porta()));
+    EXPECT_EQ(avvisi.mostrati[0].bottoni, Bottoni::Ok);
 }
 
 TEST_F(ReteCasse, hundredsOfParkedDesksGetNothingAndANewOneGetsTheSlotThatIsFreed) {
