@@ -1,8 +1,6 @@
-#include "links/collegamento_android.h"
 #include "links/json_bag.h"
 #include "platform/finti/cliente_tcp_finto.h"
-#include "platform/finti/finti.h"
-#include "platform/guasto.h"
+#include "tests/links/finti_android.h"
 #include "tests/sostegno/cartella_temporanea.h"
 
 #include <gmock/gmock.h>
@@ -15,32 +13,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
-
-class NotificheFinte : public Notifiche {
-public:
-    std::vector<std::string> mostrate;
-
-private:
-    void mostra(const std::string& testo) override { mostrate.push_back(testo); }
-};
-
-/// A board whose labels a test sets; others don't exist.
-class DatiFinti : public DatiAndroid {
-public:
-    bool nove = false;
-    LumigrafoAndroid ip[3];
-    std::map<std::pair<std::string, int>, std::string> scritte;
-
-    bool Lumigrafo9Numeri() const override { return nove; }
-    LumigrafoAndroid& IpDroid(std::size_t i) override { return ip[i]; }
-    std::string Reparto(int q) const override { return q < 2 ? q == 0 ? "Cucina" : "Caffè \"Bar\"" : ""; }
-    std::string scritta(const std::string& etichetta, int indice) override {
-        const auto trovata = scritte.find({etichetta, indice});
-        if (trovata == scritte.end())
-            throw Guasto(guasti::kElementoMancante);
-        return trovata->second;
-    }
-};
 
 class CollegamentoAndroidProva : public testing::Test {
 protected:
@@ -146,7 +118,6 @@ TEST_F(CollegamentoAndroidProva, theFirstAddressTurnsTheLinkOnAndIsReadAnewAtEac
 }
 
 TEST_F(CollegamentoAndroidProva, eachMisbehavingBoardIsNotifiedOnceAndTheNextIsServed) {
-    const std::string testa = "DEMONE LUMIGRAFO CUCINA\r\n\r\n";
     const std::vector<std::string> intera = {"connetti a:8989 1000", "sonde 0", "inattività 1000",
                                              "attendi 200",          "invia",   "ricevi",
                                              "chiudi 20000"};
@@ -156,9 +127,9 @@ TEST_F(CollegamentoAndroidProva, eachMisbehavingBoardIsNotifiedOnceAndTheNextIsS
     };
     const Caso casi[] = {
         {{true, "O"}, intera, {}},
-        {{false}, {"connetti a:8989 1000"}, {testa + "Errore connessione a lumigrafo con IP = a"}},
-        {{true, ""}, intera, {testa + "Non ricevuto esito positivo da lumigrafo con IP = a"}},
-        {{true, "", false}, intera, {testa + "Non ricevuto esito positivo da lumigrafo con IP = a"}},
+        {{false}, {"connetti a:8989 1000"}, {kTestaNotifica + "Errore connessione a lumigrafo con IP = a"}},
+        {{true, ""}, intera, {kTestaNotifica + "Non ricevuto esito positivo da lumigrafo con IP = a"}},
+        {{true, "", false}, intera, {kTestaNotifica + "Non ricevuto esito positivo da lumigrafo con IP = a"}},
     };
     indirizzo(0, "a");
     indirizzo(2, "c");

@@ -99,34 +99,29 @@ TEST(JsonBag, EachMisuseHasItsNumberAndText) {
     const std::string perIndice = "Array values can only be acessed by index";
     const std::string cambioArray = "Array values can only be changed by index or added via Null";
     const std::string cambioOggetto = "Object values can only be changed or added by key not by index";
+    const std::string tardi = "Cannot change IsArray setting after items have been added";
+    const std::string chiave = "Key must be String or an index)";
+    const std::string fuori = "Indice non incluso nell'intervallo";
     const struct {
         const char* caso;
         std::function<void()> azione;
         Fallimento atteso;
     } casi[] = {
-        {"IsArray late",
-         [&] { oggetto.IsArray(true); },
-         {5, "Cannot change IsArray setting after items have been added"}},
-        {"null key",
-         [&] { static_cast<void>(oggetto.Item(nullptr)); },
-         {94, "Key must be String or an index)"}},
-        {"null key, array",
-         [&] { static_cast<void>(array.Item(nullptr)); },
-         {94, "Key must be String or an index)"}},
-        {"array by name", [&] { static_cast<void>(array.Item("a")); }, {5, perIndice}},
+        {"IsArray late", [&] { oggetto.IsArray(true); }, {5, tardi}},
+        {"null key", [&] { (void)oggetto.Item(nullptr); }, {94, chiave}},
+        {"null key, array", [&] { (void)array.Item(nullptr); }, {94, chiave}},
+        {"array by name", [&] { (void)array.Item("a"); }, {5, perIndice}},
         {"array set by name", [&] { array.Item("a", 1); }, {5, cambioArray}},
         {"array child by name", [&] { array.AddNewArray("a"); }, {5, cambioArray}},
         {"object set by place", [&] { oggetto.Item(1, 1); }, {5, cambioOggetto}},
         {"object set by null", [&] { oggetto.AddNewObject(nullptr); }, {5, cambioOggetto}},
-        {"name in array", [&] { static_cast<void>(array.Name(1)); }, {5, "Array items do not have names"}},
-        {"names of array",
-         [&] { static_cast<void>(array.NewEnum()); },
-         {5, "Arrays must be iterated using index values"}},
+        {"name in array", [&] { (void)array.Name(1); }, {5, "Array items do not have names"}},
+        {"names of array", [&] { (void)array.NewEnum(); }, {5, "Arrays must be iterated using index values"}},
         {"removed by name", [&] { array.Remove("a"); }, {5, "Must remove by index for arrays"}},
         {"no such name", [&] { oggetto.Remove("b"); }, {5, "Chiamata di routine o argomento non valido"}},
-        {"no such place", [&] { oggetto.Remove(2); }, {9, "Indice non incluso nell'intervallo"}},
-        {"place 0", [&] { array.Item(0, 1); }, {9, "Indice non incluso nell'intervallo"}},
-        {"name 0", [&] { static_cast<void>(oggetto.Name(0)); }, {9, "Indice non incluso nell'intervallo"}},
+        {"no such place", [&] { oggetto.Remove(2); }, {9, fuori}},
+        {"place 0", [&] { array.Item(0, 1); }, {9, fuori}},
+        {"name 0", [&] { (void)oggetto.Name(0); }, {9, fuori}},
     };
     for (const auto& caso : casi)
         EXPECT_EQ(fallimento(caso.azione), caso.atteso) << caso.caso;

@@ -1,6 +1,5 @@
-#include "links/collegamento_android.h"
-#include "platform/finti/finti.h"
 #include "platform/linux/cliente_tcp.h"
+#include "tests/links/finti_android.h"
 #include "tests/sostegno/cartella_temporanea.h"
 #include "tests/sostegno/cliente_nudo.h"
 
@@ -95,23 +94,6 @@ private:
     std::thread filo_;
 };
 
-class NotificheContate : public Notifiche {
-public:
-    std::string tutte;
-
-private:
-    void mostra(const std::string& testo) override { tutte += testo.substr(testo.find('\n') + 3) + "|"; }
-};
-
-class DatiFermi : public DatiAndroid {
-public:
-    LumigrafoAndroid ip[3];
-    bool Lumigrafo9Numeri() const override { return true; }
-    LumigrafoAndroid& IpDroid(std::size_t i) override { return ip[i]; }
-    std::string Reparto(int) const override { return "Cucina"; }
-    std::string scritta(const std::string&, int) override { return "A 12"; }
-};
-
 struct Caso {
     const char* nome;
     const char* notifica; ///< how the notice begins; null: none
@@ -153,10 +135,10 @@ TEST_P(LumigrafiVeri, isLeftInTimeAndTheNextOneIsServed) {
     const Caso& caso = GetParam();
     CartellaTemporanea cartella;
     const FileIni ini(cartella.percorso() / kFileImpostazioni);
-    DatiFermi dati;
+    DatiFinti dati;
     OrologioFinto orologio;
     ClienteTcpLinux rete;
-    NotificheContate notifiche;
+    NotificheFinte notifiche;
     const std::string ip = caso.ip ? caso.ip : indirizzoLocale(), buono = indirizzoLocale();
     ini.ScriviIni(kSezioneAndroid, "IpLumDroid0", ip);
     ini.ScriviIni(kSezioneAndroid, "IpLumDroid1", buono);
@@ -170,7 +152,8 @@ TEST_P(LumigrafiVeri, isLeftInTimeAndTheNextOneIsServed) {
     const auto inizio = std::chrono::steady_clock::now();
     android.SincronizzaLumAndroid(0);
     EXPECT_LT(std::chrono::steady_clock::now() - inizio, 1000ms + 500ms); // the limit, and a busy machine
-    EXPECT_EQ(notifiche.tutte, caso.notifica ? caso.notifica + ip + "|" : "");
+    const std::vector<std::string> nessuna, una{kTestaNotifica + (caso.notifica ? caso.notifica : "") + ip};
+    EXPECT_EQ(notifiche.mostrate, caso.notifica ? una : nessuna);
     EXPECT_TRUE(prossimo.ricevuto().ends_with(R"("ForeColorCategoria3":"16777215"}})"));
     EXPECT_LT(cattivo ? cattivo->scritti.load() : 0, 64'000'000u);
 }
