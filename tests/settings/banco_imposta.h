@@ -9,6 +9,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
+#include <span>
 #include <sstream>
 
 namespace lumigrafo::prova {
@@ -51,12 +52,6 @@ protected:
         std::stringstream testo;
         testo << std::ifstream(impostazioni.file()).rdbuf();
         return testo.str();
-    }
-    /// The dialog said what it says after a save that went well, and ended the program.
-    void diSolitoFinisce() {
-        EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito");
-        EXPECT_EQ(diario.back(), "fine 0");
-        EXPECT_TRUE(avvisi.mostrati.empty());
     }
     /// Saves, as far as the tests let it.
     void applica(Imposta& i) {
@@ -138,17 +133,18 @@ inline const std::vector<Caso> kCasi{
 
 using Valori = std::map<std::string, std::string>;
 
-inline Valori altriValori() {
-    Valori valori;
+/// All keys at their default, or at the other value.
+inline Valori valori(const char* Caso::*quale) {
+    Valori tutti;
     for (const Caso& c : kCasi)
-        valori[c.chiave] = c.altro;
-    return valori;
+        tutti[c.chiave] = c.*quale;
+    return tutti;
 }
 
-/// The file as the dialog writes it.
-inline std::string salvato(const Valori& valori) {
+/// The file as the dialog writes it: its first keys, or all.
+inline std::string salvato(const Valori& valori, std::size_t quante = kCasi.size()) {
     std::string testo = "[Impostazioni]\r\n";
-    for (const Caso& c : kCasi)
+    for (const Caso& c : std::span(kCasi).first(quante))
         testo += std::string(c.chiave) + "=" + valori.at(c.chiave) + "\r\n";
     return aCp1252(testo);
 }

@@ -9,10 +9,9 @@
 #include <gtest/gtest.h>
 
 namespace lumigrafo::prova {
+namespace {
 
 using namespace std::chrono_literals;
-
-namespace {
 
 class InserisciNumeriTest : public testing::Test {
 protected:
@@ -47,17 +46,14 @@ TEST_F(InserisciNumeriTest, DalNumeroDettoFinoA999) {
         "Attenzione, verranno inseriti numeri da 7 a 999 su tutte le categorie del lumigrafo.\r\n\r\nPROCEDERE ?");
     EXPECT_EQ(coda(), "1|12|12") << "nothing is touched without a yes";
     EXPECT_EQ(chiusure, 0);
-    const struct {
-        const char *numero, *dopo;
-    } casi[] = {{"1", "999|1|999"},
-                {"999", "1|999|999"},
-                {"1000", "0|NULL|NULL"},
-                {"2,5", "998|2|999"},
-                {"-3", "1003|-3|999"}};
     int fatti = 0;
-    for (const auto& caso : casi) {
-        conferma(caso.numero);
-        EXPECT_EQ(coda(), caso.dopo) << caso.numero;
+    for (const auto& [numero, dopo] : {std::pair("1", "999|1|999"),
+                                       {"999", "1|999|999"},
+                                       {"1000", "0|NULL|NULL"},
+                                       {"2,5", "998|2|999"},
+                                       {"-3", "1003|-3|999"}}) {
+        conferma(numero);
+        EXPECT_EQ(coda(), dopo) << numero;
         EXPECT_EQ(messaggi.mostrati.back(), std::pair(std::string("Inserimento terminato"), std::int16_t{2}));
         EXPECT_EQ(chiusure, ++fatti);
     }
@@ -102,5 +98,4 @@ TEST_F(InserisciNumeriTest, UnAltraStazioneVedeNumeriInOrdineELAvanzamentoSoloSe
 }
 
 } // namespace
-
 } // namespace lumigrafo::prova

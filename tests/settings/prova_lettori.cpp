@@ -1,18 +1,10 @@
-#include "links/collegamento_android.h"
-#include "platform/finti/cliente_tcp_finto.h"
-#include "platform/finti/scelta_cartella_finta.h"
-#include "settings/impo_lumigrafo_android.h"
-#include "settings/percorso_archivio.h"
 #include "tests/settings/banco_imposta.h"
 
 #include <algorithm>
-#include <gmock/gmock.h>
 #include <set>
 
 namespace lumigrafo::prova {
 namespace {
-
-using testing::HasSubstr;
 
 /// Settings that make up one station, and its board.
 struct Postazione {
@@ -34,10 +26,10 @@ constexpr std::array<Postazione, 8> kPostazioni{{
 }};
 
 Valori di(const Postazione& p) {
-    Valori valori{{"TipoLumigrafo", p.tipo}, {"Lumigrafo9Numeri", p.nove}};
+    Valori scritti{{"TipoLumigrafo", p.tipo}, {"Lumigrafo9Numeri", p.nove}};
     for (int q = 0; q < 4; ++q)
-        valori["Categoria" + std::to_string(q)] = p.categorie.at(static_cast<std::size_t>(q));
-    return valori;
+        scritti["Categoria" + std::to_string(q)] = p.categorie.at(static_cast<std::size_t>(q));
+    return scritti;
 }
 
 /// Who reads a key while the station works, and what it takes the key for.
@@ -104,18 +96,12 @@ std::vector<Lettore> lettori() {
          },
          "0", "0"},
         {"TitoloLumigrafo", "VONUWB", sul("lblTitoloLumigrafo", kNo, Testo), "STIAMO SERVENDO I NUMERI"},
-        {"FontNumeri", "VUWB", sul("lblNumero3", 0, FontName), "Arial Narrow"},
-        {"FontNumeri", "ON", sul("lblNumero3", 0, FontName), "Arial Blank"},
-        {"FontNumeri", "A", sul("lblNumero", 0, FontName), "Arial Narrow"},
+        // What each board makes of its font, and the big one of its colours, the boards' own tests tell.
+        {"FontNumeri", "VUW", sul("lblNumero3", 0, FontName), "Arial Narrow"},
         {"FontSizeNumeri", "VUW", sul("lblNumero3", 0, FontSize), "100"},
-        {"FontSizeNumeri", "B", sul("lblNumero3", 0, FontSize), "160"},
-        {"FontSizeNumeri", "ON", sul("lblNumero3", 0, FontSize), "72"},
-        {"FontSizeNumeri", "A", sul("lblNumero", 0, FontSize), "100"},
         {"ColoreTesto0", "UWP", sul("lblNumero3", 0, ForeColor), "16777215"},
-        {"ColoreTesto0", "B", sul("lblNumero3", 0, ForeColor), "0"},
-        {"ColoreTesto0", "B", sul("lblChiamati", kNo, ForeColor), "16777215"},
         {"ColoreTesto0", "A", sul("lblCassa", 0, ForeColor), "16777215"},
-        {"ColoreSfondo0", "UWB", sfumatura(0, &Controllo::Sfumatura1), "0"},
+        {"ColoreSfondo0", "UW", sfumatura(0, &Controllo::Sfumatura1), "0"},
         {"ColoreSfondo0", "A", sfumatura(0, &Controllo::Sfumatura2), "65280"},
         {"ColoreNumeriTesto", "A", sul("lblNumero", 0, ForeColor), "0"},
         {"ColoreNumeriSfondo", "A", sul("picNumero", 0, BackColor), "16777215"},
@@ -136,7 +122,8 @@ std::vector<Lettore> lettori() {
              "0"});
     for (int q = 0; q < 3; ++q) {
         const std::string cifra = std::to_string(q);
-        tutti.push_back({"ColoreTesto" + cifra, "VON", sul("lblNumero3", q, ForeColor), "16777215"});
+        for (const char* scritta : {"lblNumero3", "lblTitolo"})
+            tutti.push_back({"ColoreTesto" + cifra, "VON", sul(scritta, q, ForeColor), "16777215"});
         tutti.push_back({"ColoreSfondo" + cifra, "V", sul("picPannello", q, BackColor), "0"});
         tutti.push_back({"ColoreSfondo" + cifra, "ON", sfumatura(q, &Controllo::Sfumatura1), "0"});
         tutti.push_back({"FontTesto" + cifra, "VON", sul("lblTitolo", q, FontName), "Arial Narrow"});
@@ -149,9 +136,9 @@ using LettoriTest = ImpostaTest;
 
 TEST_F(LettoriTest, QuelCheSalvaLoLeggonoConsoleELumigrafi) {
     std::set<std::string> lette;
-    std::ofstream(ambiente.file("pubblicita.jpg"))
-        << "x"; // the big board stretches nothing without a picture
-    const auto leggono = [&](const Postazione& p, const Valori& valori) {
+    // The big board stretches nothing without a picture.
+    std::ofstream(ambiente.file("pubblicita.jpg")) << "x";
+    const auto leggono = [&](const Postazione& p, const Valori& scritti) {
         Banco b(cartella.percorso());
         b.tipoVero = true;
         b.caricata();
@@ -159,78 +146,31 @@ TEST_F(LettoriTest, QuelCheSalvaLoLeggonoConsoleELumigrafi) {
         for (const Lettore& l : lettori()) {
             if (l.chi != "C" && l.chi.find(p.sigla) == std::string_view::npos)
                 continue;
-            const auto valore = valori.find(l.chiave);
-            const std::string atteso = valore == valori.end()  ? l.senza
-                                       : valore->second == "1" ? l.conUnaSpunta
-                                                               : valore->second;
-            EXPECT_EQ(l.vede(b), atteso) << l.chiave << " of board " << p.sigla;
+            const auto valore = scritti.find(l.chiave);
+            const std::string scritto = valore == scritti.end() ? l.senza : valore->second;
+            EXPECT_EQ(l.vede(b), scritto == "1" ? l.conUnaSpunta : scritto)
+                << l.chiave << " of board " << p.sigla;
             lette.insert(l.chiave);
         }
     };
     for (const Postazione& p : kPostazioni) {
-        Valori valori = di(p);
+        Valori scritti = di(p);
         std::filesystem::remove(impostazioni.file());
-        for (const auto& [chiave, valore] : valori)
+        for (const auto& [chiave, valore] : scritti)
             imposta(chiave.c_str(), valore);
-        leggono(p, valori);
+        leggono(p, scritti);
 
-        valori.merge(altriValori());
-        valori["BottoneAvanti"] = p.bottone;
-        std::ofstream(impostazioni.file(), std::ios::binary) << salvato(valori);
+        scritti.merge(valori(&Caso::altro));
+        scritti["BottoneAvanti"] = p.bottone;
+        std::ofstream(impostazioni.file(), std::ios::binary) << salvato(scritti);
         const auto i = apri();
         std::filesystem::remove(impostazioni.file());
         applica(*i);
-        ASSERT_EQ(file(), salvato(valori));
-        leggono(p, valori);
+        ASSERT_EQ(file(), salvato(scritti));
+        leggono(p, scritti);
     }
     for (const Caso& c : kCasi)
         EXPECT_TRUE(lette.contains(c.chiave)) << "nobody reads " << c.chiave;
-}
-
-class NotificheFinte : public Notifiche {
-    void mostra(const std::string& testo) override { ADD_FAILURE() << testo; }
-};
-
-TEST_F(LettoriTest, ArchivioELumigrafiAndroidLeggonoLeLoroFinestre) {
-    const CartellaTemporanea altrove;
-    std::filesystem::copy(ambiente.file(kFileArchivio), altrove.percorso() / kFileArchivio);
-    SceltaCartellaFinta nessuna;
-    PercorsoArchivio percorso({ambiente, messaggi, processi, nessuna}, [] {});
-    percorso.controlli()("txtPathDB").Caption(altrove.percorso().string());
-    percorso.clic("cmdApplica", kNo);
-    ImpoLumigrafoAndroid tablet(ambiente, nessuna, [] {});
-    for (int i = 0; i < 3; ++i) {
-        tablet.controlli()("txtIP", i).Caption("10.0.0." + std::to_string(i));
-        tablet.controlli()("sldFont", i).Value(20 * i);
-    }
-    tablet.controlli()("txtPathPubblicita").Caption("\\\\Server\\Foto");
-    tablet.controlli()("chkSoloAndroid").Value(1);
-    tablet.clic("cmdApplica", kNo);
-    for (const auto& [chiave, valore] : altriValori())
-        imposta(chiave.c_str(), valore);
-    imposta("BottoneAvanti", 0);
-    applica(*apri());
-
-    Banco b(cartella.percorso());
-    b.caricata();
-    EXPECT_EQ(b.stato.PathDB, altrove.percorso().string());
-    EXPECT_TRUE(b.stato.SoloAndroid);
-    ClienteTcpFinto rete{b.diario};
-    NotificheFinte notifiche;
-    for (int i = 0; i < 3; ++i)
-        rete.host["10.0.0." + std::to_string(i)] = {};
-    CollegamentoAndroid(b.impostazioni, b.dati, b.orologio, rete, notifiche).SincronizzaLumAndroid(-1);
-    for (int i = 0; i < 3; ++i) {
-        const std::string& spedito = rete.host["10.0.0." + std::to_string(i)].ricevuto;
-        // The colours travel one place further down than the boards wear them.
-        for (const char* parte :
-             {"\"ServerDir\":\"\\\\\\\\server\\\\foto\"", "\"TitoloLumigrafo\":\"SERVIAMO IL\"",
-              "\"BackColorCategoria1\":\"8388608\"", "\"ForeColorCategoria1\":\"65280\"",
-              "\"BackColorCategoria2\":\"16777215\"", "\"ForeColorCategoria2\":\"0\"",
-              "\"BackColorCategoria3\":\"0\"", "\"ForeColorCategoria3\":\"16777215\""})
-            EXPECT_THAT(spedito, HasSubstr(parte));
-        EXPECT_THAT(spedito, HasSubstr("\"FontNumeri\":" + std::to_string(20 * i)));
-    }
 }
 
 } // namespace

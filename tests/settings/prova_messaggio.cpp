@@ -7,25 +7,28 @@
 #include <string>
 
 namespace lumigrafo::prova {
+namespace {
 
 using namespace std::chrono_literals;
 
-namespace {
+/// The window that `crea` makes, of timers and of what closes it, goes after that time and not before.
+void resta(std::chrono::milliseconds durata, auto crea) {
+    TimersFinti timers;
+    int chiusure = 0;
+    const auto finestra = crea(timers, [&] { ++chiusure; });
+    timers.avanza(durata - 1ms);
+    EXPECT_EQ(chiusure, 0) << durata.count();
+    timers.avanza(1ms);
+    EXPECT_EQ(chiusure, 1) << durata.count();
+}
 
 TEST(Messaggio, quantoResta) {
-    const struct {
-        std::int16_t secondi;
-        std::chrono::milliseconds durata;
-    } casi[] = {{0, 2000ms}, {-1, 2000ms}, {1, 1000ms}, {4, 4000ms}, {32, 32000ms}};
-    for (const auto& caso : casi) {
-        TimersFinti timers;
-        int chiusure = 0;
-        Messaggio messaggio(timers, "Posizionamento avvenuto", caso.secondi, [&] { ++chiusure; });
-        timers.avanza(caso.durata - 1ms);
-        EXPECT_EQ(chiusure, 0) << caso.secondi;
-        timers.avanza(1ms);
-        EXPECT_EQ(chiusure, 1) << caso.secondi;
-    }
+    for (const auto& [secondi, durata] :
+         {std::pair(0, 2000ms), {-1, 2000ms}, {1, 1000ms}, {4, 4000ms}, {32, 32000ms}})
+        resta(durata, [s = static_cast<std::int16_t>(secondi)](Timers& timers, auto chiudi) {
+            return Messaggio(timers, "Posizionamento avvenuto", s, chiudi);
+        });
+    resta(2500ms, [](Timers& timers, auto chiudi) { return Splash(timers, chiudi); });
     TimersFinti timers;
     for (const std::int16_t troppi : {std::int16_t{33}, std::int16_t{32767}})
         EXPECT_THROW(Messaggio(timers, "x", troppi, [] {}), Guasto) << troppi;
@@ -35,19 +38,15 @@ TEST(Messaggio, unTestoLungoSiScrivePiuPiccolo) {
     std::string accentato;
     for (int i = 0; i < 50; ++i)
         accentato += "è"; // two bytes each
-    const struct {
-        std::string testo;
-        bool piccolo;
-    } casi[] = {{std::string(50, 'a'), false},
-                {std::string(51, 'a'), true},
-                {accentato, false},
-                {accentato + "!", true}};
-    for (const auto& caso : casi) {
+    for (const auto& [testo, piccolo] : {std::pair(std::string(50, 'a'), false),
+                                         {std::string(51, 'a'), true},
+                                         {accentato, false},
+                                         {accentato + "!", true}}) {
         TimersFinti timers;
-        Messaggio messaggio(timers, caso.testo, 1, [] {});
+        Messaggio messaggio(timers, testo, 1, [] {});
         const Controllo& etichetta = messaggio.controlli()("lblMessaggio");
-        EXPECT_EQ(etichetta.Caption(), caso.testo);
-        EXPECT_EQ(etichetta.FontSize() == 14, caso.piccolo) << caso.testo;
+        EXPECT_EQ(etichetta.Caption(), testo);
+        EXPECT_EQ(etichetta.FontSize() == 14, piccolo) << testo;
         EXPECT_GE(etichetta.FontSize(), 14);
     }
 }
@@ -62,16 +61,5 @@ TEST(Messaggio, siChiudeColClicSulTesto) {
     EXPECT_EQ(chiusure, 1);
 }
 
-TEST(Splash, dueSecondiEMezzo) {
-    TimersFinti timers;
-    int chiusure = 0;
-    Splash splash(timers, [&] { ++chiusure; });
-    timers.avanza(2499ms);
-    EXPECT_EQ(chiusure, 0);
-    timers.avanza(1ms);
-    EXPECT_EQ(chiusure, 1);
-}
-
 } // namespace
-
 } // namespace lumigrafo::prova

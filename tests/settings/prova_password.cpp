@@ -7,10 +7,9 @@
 #include <string_view>
 
 namespace lumigrafo::prova {
+namespace {
 
 using namespace std::chrono_literals;
-
-namespace {
 
 class PasswordTest : public testing::Test {
 protected:
@@ -53,14 +52,10 @@ TEST_F(PasswordTest, SoloIlCodiceEsattoApre) {
     EXPECT_EQ(chiusure, 1);
     EXPECT_EQ(domanda.EsitoPassword, kVero);
     EXPECT_EQ(sistema.bips, ++bip);
-}
-
-TEST_F(PasswordTest, AnnullaNegaAncheDopoUnSi) {
-    domanda.EsitoPassword = kVero; // of the time before
     digita("81726", "cmdAnnulla");
-    EXPECT_EQ(domanda.EsitoPassword, kFalso);
-    EXPECT_EQ(sistema.bips, 1);
-    EXPECT_EQ(chiusure, 1);
+    EXPECT_EQ(domanda.EsitoPassword, kFalso) << "though the time before it was a yes";
+    EXPECT_EQ(sistema.bips, ++bip);
+    EXPECT_EQ(chiusure, 2);
 }
 
 TEST_F(PasswordTest, UnTastoPremeIlSuoBottonePerUnAttimo) {
@@ -79,5 +74,4 @@ TEST_F(PasswordTest, UnTastoPremeIlSuoBottonePerUnAttimo) {
 }
 
 } // namespace
-
 } // namespace lumigrafo::prova

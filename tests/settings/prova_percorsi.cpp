@@ -89,6 +89,7 @@ TEST(SfogliaCartelle, SiEntraConUnToccoESiTornaSu) {
     EXPECT_EQ(dove(*s), rete + "/beta/dentro");
     EXPECT_TRUE(s->controlli()("lblVuota").Visible());
     s->clic("cmdSu", kNessuno);
+    EXPECT_EQ(dove(*s), rete + "/beta");
     s->clic("cmdAnnulla", kNessuno);
     EXPECT_EQ(scelta, "");
     tocca(*s, "lstLuoghi", 1);
@@ -121,14 +122,13 @@ TEST(ImpoLumigrafoAndroid, LeggeEScriveLeSueChiavi) {
     const auto leggi = [&](const char* chiave) { return s.ini.LeggiIni(kSezioneAndroid, chiave, "manca"); };
     {
         ImpoLumigrafoAndroid a(s.ambiente, s.sceltaCartella, s.chiudi);
-        for (int i = 0; i < 3; ++i) {
-            EXPECT_EQ(a.controlli()("txtIP", i).Caption(), "");
-            EXPECT_EQ(a.controlli()("sldFont", i).Value(), 0);
-        }
-        EXPECT_EQ(a.controlli()("chkSoloAndroid").Value(), 0);
-        a.controlli()("txtIP", 1).Caption(" 10.0.0.9");
-        a.controlli()("sldFont", 2).Value(40);
-        a.controlli()("chkSoloAndroid").Value(1);
+        Controlli& c = a.controlli();
+        for (int i = 0; i < 3; ++i)
+            EXPECT_EQ(c("txtIP", i).Caption() + c("lblValore", i).Caption(), "0");
+        EXPECT_EQ(c("chkSoloAndroid").Value(), 0);
+        c("txtIP", 1).Caption(" 10.0.0.9");
+        c("sldFont", 2).Value(40);
+        c("chkSoloAndroid").Value(1);
         s.sceltaCartella.scelta = "\\\\SERVER\\PubblicitÀ ";
         a.clic("cmdScegliPath", kNessuno);
         EXPECT_EQ(s.sceltaCartella.chieste.back().titolo, "Scelta percorso cartella pubblicità");
