@@ -13,8 +13,8 @@ namespace {
 namespace fs = std::filesystem;
 using prova::Cartella;
 using prova::Cenno;
-using prova::fallimento;
 using prova::Figlio;
+using prova::guastoDi;
 using prova::leggi;
 using prova::scrivi;
 
@@ -26,13 +26,12 @@ TEST(SostituisciFile, conservaPermessiECollegamenti) {
     fs::create_symlink("assente.ini", c / "appeso.ini");
     scrivi(c / "vero.ini.nuovo", "left behind by a writer who was killed");
 
-    EXPECT_TRUE(sostituisciFile(c / "nome.ini", "nuovo"));
-    EXPECT_TRUE(sostituisciFile(c / "appeso.ini", "primo"));
-    EXPECT_EQ(leggi(c / "vero.ini"), "nuovo");
+    for (const auto& [nome, vero] : {std::pair("nome.ini", "vero.ini"), {"appeso.ini", "assente.ini"}}) {
+        EXPECT_TRUE(sostituisciFile(c / nome, nome));
+        EXPECT_EQ(leggi(c / vero), nome);
+        EXPECT_TRUE(fs::is_symlink(c / nome));
+    }
     EXPECT_EQ(fs::status(c / "vero.ini").permissions(), fs::perms(0640));
-    EXPECT_EQ(leggi(c / "assente.ini"), "primo");
-    EXPECT_TRUE(fs::is_symlink(c / "nome.ini"));
-    EXPECT_TRUE(fs::is_symlink(c / "appeso.ini"));
     EXPECT_EQ(c.quantiFile(), 4); // two files, two links: no temporary one
 
     EXPECT_FALSE(sostituisciFile(c / "nessuna" / "a.ini", "x"));
@@ -46,12 +45,8 @@ TEST(SostituisciFile, fallendoLasciaIlVecchio) {
         int cartella, file;
         std::size_t limite; ///< of the disk, 0: none
     };
-    const Caso casi[] = {
-        {"read-only folder", 0555, 0666, 0},
-        {"read-only file", 0777, 0444, 0},
-        {"full disk", 0777, 0666, 1000},
-    };
-    for (const auto& caso : casi) {
+    for (const Caso& caso : {Caso{"read-only folder", 0555, 0666, 0}, Caso{"read-only file", 0777, 0444, 0},
+                             Caso{"full disk", 0777, 0666, 1000}}) {
         SCOPED_TRACE(caso.nome);
         const Cartella c;
         scrivi(c / "a.ini", "vecchio");
@@ -109,8 +104,8 @@ TEST(FileEsclusivo, tieneFuoriGliAltriFinoAllaMorte) {
         return 0;
     });
     preso.aspetta();
-    EXPECT_EQ(fallimento(apri).first, guasti::kPermessoNegato);
-    EXPECT_EQ(fallimento([&] { eliminaSeLibero(file); }).first, guasti::kPermessoNegato);
+    EXPECT_EQ(guastoDi(apri), guasti::kPermessoNegato);
+    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(file); }), guasti::kPermessoNegato);
     EXPECT_TRUE(fs::exists(file));
     altro.uccidi();
 
@@ -118,18 +113,18 @@ TEST(FileEsclusivo, tieneFuoriGliAltriFinoAllaMorte) {
     {
         const FileEsclusivo mio(file);
         EXPECT_EQ(leggi(file), "");
-        EXPECT_EQ(fallimento(apri).first, guasti::kPermessoNegato); // from the same process too
+        EXPECT_EQ(guastoDi(apri), guasti::kPermessoNegato); // from the same process too
     }
     eliminaSeLibero(file);
     EXPECT_FALSE(fs::exists(file));
-    EXPECT_EQ(fallimento([&] { eliminaSeLibero(file); }).first, guasti::kFileNonTrovato);
+    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(file); }), guasti::kFileNonTrovato);
 }
 
 TEST(FileEsclusivo, guastiDelSistemaNonSonoAttese) {
     const Cartella c;
-    EXPECT_EQ(fallimento([&] { FileEsclusivo f(c / "nessuna" / "a.txt"); }).first, guasti::kPercorso);
-    EXPECT_EQ(fallimento([&] { FileEsclusivo f(c.percorso()); }).first, guasti::kAccesso);
-    EXPECT_EQ(fallimento([&] { eliminaSeLibero(c.percorso()); }).first, guasti::kAccesso);
+    EXPECT_EQ(guastoDi([&] { FileEsclusivo f(c / "nessuna" / "a.txt"); }), guasti::kPercorso);
+    EXPECT_EQ(guastoDi([&] { FileEsclusivo f(c.percorso()); }), guasti::kAccesso);
+    EXPECT_EQ(guastoDi([&] { eliminaSeLibero(c.percorso()); }), guasti::kAccesso);
 }
 
 /// A holder that deletes its file while it lets go must not leave two holders of two files of one name.

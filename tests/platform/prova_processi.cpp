@@ -1,14 +1,11 @@
-#include "platform/finti/finti.h"
 #include "platform/guasto.h"
 #include "platform/linux/processi.h"
-#include "settings/processo.h"
 #include "tests/platform/ambiente_prova.h"
 #include "tests/sostegno/guasto_atteso.h"
 
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/stat.h>
@@ -20,7 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 using prova::Cartella;
 using prova::Figlio;
-using testing::ElementsAre;
 
 /// Names that no other run of these tests bears at the same time.
 std::string unico(const std::string& nome) {
@@ -94,17 +90,6 @@ TEST(Termina, maiSeStessoNeChiEMorto) {
     EXPECT_EQ(ProcessiLinux().termina(nome), 0);
 }
 
-TEST(TerminaProcesso, soloSeNonTrovatoInMinuscolo) {
-    Diario diario;
-    ProcessiFinti processi(&diario);
-    processi.inEsecuzione = {{"PrimoPiano.exe", 2}};
-    FermaPrimoPiano(processi);
-    EXPECT_THAT(diario, ElementsAre("termina PrimoPiano.exe"));
-    diario.clear();
-    FermaPrimoPiano(processi); // none runs any more
-    EXPECT_THAT(diario, ElementsAre("termina PrimoPiano.exe", "termina primopiano.exe"));
-}
-
 TEST(Avvia, staccatoENellaSuaCartella) {
     const Cartella c;
     const auto script = c / "programma con spazi";
@@ -123,7 +108,7 @@ TEST(Avvia, guastoSeNonPuo) {
     ProcessiLinux processi;
     for (const fs::path& p : {fs::path(c / "assente"), fs::path(c / "testo"), c.percorso() / "nessuna" / "a",
                               fs::path("lumigrafo-nessun-programma"), fs::path()})
-        EXPECT_EQ(prova::fallimento([&] { processi.avvia(p, {}, StileFinestra::Normale); }).first,
+        EXPECT_EQ(prova::guastoDi([&] { processi.avvia(p, {}, StileFinestra::Normale); }),
                   guasti::kFileNonTrovato)
             << p;
 }

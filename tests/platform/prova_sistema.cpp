@@ -6,6 +6,7 @@
 #include "platform/linux/sistema.h"
 #include "tests/platform/ambiente_prova.h"
 
+#include <array>
 #include <cstdlib>
 #include <ctime>
 #include <gmock/gmock.h>
@@ -129,34 +130,31 @@ TEST(Orologio, oraLocaleSecondoIlFuso) {
     EXPECT_EQ(ieri({2026, 1, 1}), (Data{2025, 12, 31}));
 }
 
-/// Only the programs named here can be started.
-class SoloQuesti : public Processi {
-public:
-    explicit SoloQuesti(std::string programma) : programma_(std::move(programma)) {}
-    std::vector<std::string> comandi;
-    int termina(const std::string&) override { return 0; }
+/// Only the program named here can be started.
+struct SoloQuesto : ProcessiFinti {
+    const std::filesystem::path quale;
+    explicit SoloQuesto(const char* programma) : quale(programma) {}
     void avvia(const std::filesystem::path& programma, const std::vector<std::string>& argomenti,
-               StileFinestra) override {
-        if (programma != programma_)
+               StileFinestra stile) override {
+        if (programma != quale)
             throw Guasto(guasti::kFileNonTrovato);
-        std::string comando = programma.string();
-        for (const auto& a : argomenti)
-            comando += " " + a;
-        comandi.push_back(comando);
+        ProcessiFinti::avvia(programma, argomenti, stile);
     }
-
-private:
-    std::string programma_;
 };
 
 TEST(Alimentazione, usaIlComandoCheCE) {
-    SoloQuesti systemd("systemctl"), sbin("/sbin/shutdown"), nessuno("");
-    AlimentazioneLinux(systemd, true).spegni();
-    AlimentazioneLinux(systemd, true).riavvia();
-    EXPECT_THAT(systemd.comandi, ElementsAre("systemctl poweroff", "systemctl reboot"));
-    AlimentazioneLinux(sbin, true).spegni();
-    AlimentazioneLinux(sbin, false).riavvia();
-    EXPECT_THAT(sbin.comandi, ElementsAre("/sbin/shutdown -h now", "/sbin/shutdown -r now"));
+    for (const auto& [programma, spegne, riavvia] :
+         {std::array{"systemctl", "systemctl poweroff", "systemctl reboot"},
+          std::array{"/sbin/shutdown", "/sbin/shutdown -h now", "/sbin/shutdown -r now"}}) {
+        SoloQuesto processi(programma);
+        for (const bool systemd : {true, programma[0] != '/'}) {
+            AlimentazioneLinux alimentazione(processi, systemd);
+            alimentazione.spegni();
+            alimentazione.riavvia();
+        }
+        EXPECT_THAT(processi.avviati, ElementsAre(spegne, riavvia, spegne, riavvia));
+    }
+    SoloQuesto nessuno("");
     EXPECT_THROW(AlimentazioneLinux(nessuno, true).spegni(), Guasto);
 }
 
