@@ -22,6 +22,11 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
     }
+    /// Shows the board: its window.
+    QWidget* mostra() {
+        videata->Mostra();
+        return finestra();
+    }
     /// The window in view; null where there is none.
     static QWidget* finestra() {
         for (QWidget* w : QApplication::topLevelWidgets())

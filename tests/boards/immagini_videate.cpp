@@ -19,7 +19,6 @@
 
 // Draws every board with an evening's numbers, from its real window, for the manual.
 namespace lumigrafo::prova {
-
 namespace {
 
 struct Scena {
@@ -132,7 +131,6 @@ bool disegna(const Scena& scena, const std::filesystem::path& cartella, QSize mi
 }
 
 } // namespace
-
 } // namespace lumigrafo::prova
 
 /// FOLDER [WIDTH HEIGHT]: one picture a board, 1920 by 1080 unless told otherwise.

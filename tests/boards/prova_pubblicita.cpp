@@ -11,10 +11,9 @@
 #include <vector>
 
 namespace lumigrafo::prova {
+namespace {
 
 using namespace std::chrono_literals;
-
-namespace {
 
 void crea(const CartellaTemporanea& cartella, std::initializer_list<const char*> nomi) {
     for (const char* nome : nomi)
@@ -63,59 +62,51 @@ TEST(ElencoPubblicita, laCartellaCambiaDuranteIlGiro) {
     EXPECT_EQ(giro(elenco, 3), (std::vector<std::string>{"", "", ""}));
 }
 
-struct Caso {
-    TipoVideata tipo;
-    std::chrono::milliseconds intervallo;
-    int margine;       ///< twips under a picture that is stretched
-    Twip altezza;      ///< of the panel with three departments, two desks
-    Twip altaStriscia; ///< what the strip takes of it; 0 where the settings don't show it
-};
+TEST(Rotazione, tempiMisureEStriscia) {
+    using enum TipoVideata;
+    const struct {
+        TipoVideata tipo;
+        std::chrono::milliseconds intervallo;
+        int margine;       ///< twips under a picture that is stretched
+        Twip altezza;      ///< of the panel with three departments, two desks
+        Twip altaStriscia; ///< what the strip takes of it; 0 where the settings don't show it
+    } casi[] = {
+        {frmLumigrafooRIZZ, 10000ms, 0, 3525, 540},    {frmLumigrafoOrizz9numeri, 10000ms, 600, 3645, 540},
+        {frmLumigrafo1Reparto, 10000ms, 0, 4815, 540}, {frmLumigrafo1RepartoBig, 10000ms, 0, 3375, 0},
+        {frmLumigrafoPerson, 32000ms, 0, 2985, 0},     {frmAvantiProssimo, 10000ms, 0, 4320, 0}};
+    for (const auto& caso : casi)
+        for (const auto& [valore, vale] :
+             {std::pair("1", true), {"-1", false}, {"2", false}, {"0", false}, {"", false}}) {
+            SCOPED_TRACE(std::string(famiglia(caso.tipo).nome) + " " + valore);
+            const bool sempre = caso.tipo == frmAvantiProssimo, mai = caso.tipo == frmLumigrafoPerson;
+            BancoVideata banco(caso.tipo);
+            crea(banco.cartella, {"pubblicita1.jpg"});
+            banco.console.inUso[2] = caso.tipo != frmLumigrafoOrizz9numeri;
+            banco.imposta("QuanteCasse", 2);
+            banco.imposta("ResizePubblicita", valore);
+            banco.imposta("PubblicitaMirtolanda", valore);
+            Controllo& pannello = banco.controllo("picPubblicita");
+            banco.timers.avanza(caso.intervallo - 1ms);
+            EXPECT_EQ(pannello.Figura(), "");
+            banco.timers.avanza(1ms);
+            EXPECT_EQ(pannello.Figura(), (banco.cartella.percorso() / "pubblicita1.jpg").string());
+            pannello.Figura("segno");
+            banco.timers.avanza(caso.intervallo);
+            EXPECT_EQ(pannello.Figura(), "segno") << "the end of the listing: the picture stays";
+            banco.timers.avanza(caso.intervallo);
+            EXPECT_NE(pannello.Figura(), "segno");
 
-class Rotazione : public testing::TestWithParam<Caso> {};
-
-TEST_P(Rotazione, tempiMisureEStriscia) {
-    const Caso& caso = GetParam();
-    const bool sempre = caso.tipo == TipoVideata::frmAvantiProssimo;
-    const bool mai = caso.tipo == TipoVideata::frmLumigrafoPerson;
-    for (const auto& [valore, vale] : std::vector<std::pair<const char*, bool>>{
-             {"1", true}, {"-1", false}, {"2", false}, {"0", false}, {"", false}}) {
-        BancoVideata banco(caso.tipo);
-        crea(banco.cartella, {"pubblicita1.jpg"});
-        banco.console.inUso[2] = caso.tipo != TipoVideata::frmLumigrafoOrizz9numeri;
-        banco.imposta("QuanteCasse", 2);
-        banco.imposta("ResizePubblicita", valore);
-        banco.imposta("PubblicitaMirtolanda", valore);
-        Controllo& pannello = banco.controllo("picPubblicita");
-        banco.timers.avanza(caso.intervallo - 1ms);
-        EXPECT_EQ(pannello.Figura(), "");
-        banco.timers.avanza(1ms);
-        EXPECT_EQ(pannello.Figura(), (banco.cartella.percorso() / "pubblicita1.jpg").string());
-        pannello.Figura("segno");
-        banco.timers.avanza(caso.intervallo);
-        EXPECT_EQ(pannello.Figura(), "segno") << "the end of the listing: the picture stays";
-        banco.timers.avanza(caso.intervallo);
-        EXPECT_NE(pannello.Figura(), "segno");
-
-        const bool stira = sempre || (vale && !mai);
-        EXPECT_EQ(pannello.Adatta(), stira ? Adattamento::Stirata : Adattamento::Naturale) << valore;
-        EXPECT_EQ(pannello.MargineFigura().v, stira ? caso.margine : 0);
-        const bool striscia = vale && caso.altaStriscia > Twip(0);
-        EXPECT_EQ(pannello.Height(), caso.altezza - (striscia ? caso.altaStriscia : Twip(0))) << valore;
-        if (Controllo* fra = banco.videata->controlli().cerca("FraMirtolanda")) {
-            EXPECT_EQ(fra->Visible(), striscia || sempre);
+            const bool stira = sempre || (vale && !mai);
+            EXPECT_EQ(pannello.Adatta(), stira ? Adattamento::Stirata : Adattamento::Naturale);
+            EXPECT_EQ(pannello.MargineFigura().v, stira ? caso.margine : 0);
+            const bool striscia = vale && caso.altaStriscia > Twip(0);
+            EXPECT_EQ(pannello.Height(), caso.altezza - (striscia ? caso.altaStriscia : Twip(0)));
+            if (const Controllo* fra = banco.videata->controlli().cerca("FraMirtolanda")) {
+                EXPECT_EQ(fra->Visible(), striscia || sempre);
+            }
+            EXPECT_EQ(pannello.Visible(), !mai);
         }
-        EXPECT_EQ(pannello.Visible(), !mai);
-    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Videate, Rotazione,
-                         testing::Values(Caso{TipoVideata::frmLumigrafooRIZZ, 10000ms, 0, 3525, 540},
-                                         Caso{TipoVideata::frmLumigrafoOrizz9numeri, 10000ms, 600, 3645, 540},
-                                         Caso{TipoVideata::frmLumigrafo1Reparto, 10000ms, 0, 4815, 540},
-                                         Caso{TipoVideata::frmLumigrafo1RepartoBig, 10000ms, 0, 3375, 0},
-                                         Caso{TipoVideata::frmLumigrafoPerson, 32000ms, 0, 2985, 0},
-                                         Caso{TipoVideata::frmAvantiProssimo, 10000ms, 0, 4320, 0}),
-                         [](const auto& caso) { return std::string(famiglia(caso.param.tipo).nome); });
 
 TEST(Striscia, ilTestoSiCambia) {
     for (const char* testo : {"", "Grazie ai volontari"}) {
@@ -139,5 +130,4 @@ TEST(PubblicitaBig, senzaFigureNonCEPannello) {
 }
 
 } // namespace
-
 } // namespace lumigrafo::prova

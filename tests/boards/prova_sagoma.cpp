@@ -17,9 +17,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr Rettangolo kPrimario{0, 0, 28800, 16200};
+/// A monitor without any bar.
+constexpr Schermo nudo(const Rettangolo& tutto, bool primario = false) {
+    return {tutto, tutto, primario};
+}
 
-constexpr Schermo kConsole{kPrimario, kPrimario, true};
+constexpr Rettangolo kPrimario{0, 0, 28800, 16200};
+constexpr Schermo kConsole = nudo(kPrimario, true);
 
 /// The outline on a desktop, with the operator's answers.
 class SagomaProva : public testing::Test {
@@ -41,6 +45,7 @@ protected:
         sagoma.attiva();
         return sagoma.posto();
     }
+    /// Left, top, width and height in the settings.
     std::string salvato() const {
         std::string posto;
         for (const char* chiave : {"Left", "Top", "Width", "Height"})
@@ -60,17 +65,12 @@ TEST_F(SagomaProva, FindsTheMonitorBesideTheConsole) {
              Caso{"to the right, with a bar at its foot",
                   {{28800, 0, 19200, 15360}, {28800, 0, 19200, 14760}},
                   "28800 0 19200 14760 "},
-             Caso{"to the left",
-                  {{-19200, 0, 19200, 15360}, {-19200, 0, 19200, 15360}},
-                  "-19200 0 19200 15360 "},
-             Caso{"with the feet at one height",
-                  {{28800, 5400, 19200, 10800}, {28800, 5400, 19200, 10800}},
+             Caso{"to the left", nudo({-19200, 0, 19200, 15360}), "-19200 0 19200 15360 "},
+             Caso{"with the feet at one height", nudo({28800, 5400, 19200, 10800}),
                   "28800 5400 19200 10800 "},
              // The window system counts from the second monitor's corner, so the console doesn't stand at 0.
-             Caso{"to the left, at the origin",
-                  {{0, 0, 15360, 11520}, {0, 0, 15360, 11520}},
-                  "0 0 15360 11520 ",
-                  {{15360, 0, 28800, 16200}, {15360, 0, 28800, 16200}, true}},
+             Caso{"to the left, at the origin", nudo({0, 0, 15360, 11520}), "0 0 15360 11520 ",
+                  nudo({15360, 0, 28800, 16200}, true)},
              Caso{"half as many twips for the same pixels",
                   {{28800, 0, 28800, 16200}, {28800, 300, 28800, 15900}},
                   "28800 300 28800 15900 "},
@@ -80,21 +80,20 @@ TEST_F(SagomaProva, FindsTheMonitorBesideTheConsole) {
         EXPECT_EQ(attiva(console.tutto), altro.lavoro);
         EXPECT_EQ(salvato(), atteso);
         EXPECT_EQ(messaggi.mostrati.back(),
-                  (std::pair<std::string, std::int16_t>("Posizionamento avvenuto", 3)));
+                  std::pair(std::string("Posizionamento avvenuto"), std::int16_t{3}));
     }
     EXPECT_THAT(avvisi.mostrati, IsEmpty());
 }
 
 TEST_F(SagomaProva, AsksWhereNoMonitorIsBeside) {
-    for (const auto& [nome, altro] :
-         {std::pair("none", kConsole),
-          {"above", Schermo{{0, -15360, 19200, 15360}, {0, -15360, 19200, 15360}}},
-          {"below and beside", Schermo{{28800, 16200, 19200, 10800}, {28800, 16200, 19200, 10800}}}}) {
+    using Altri = std::vector<Schermo>;
+    for (const auto& [nome, altri] : {std::pair("none", Altri{}),
+                                      {"above", Altri{nudo({0, -15360, 19200, 15360})}},
+                                      {"below and beside", Altri{nudo({28800, 16200, 19200, 10800})}}}) {
         SCOPED_TRACE(nome);
         diario.clear();
-        schermi.schermi = {kConsole};
-        if (!altro.primario)
-            schermi.schermi.push_back(altro);
+        schermi.schermi = altri;
+        schermi.schermi.insert(schermi.schermi.begin(), kConsole);
         EXPECT_TRUE(monitorDi(schermi, attiva())) << "the question isn't out of sight";
         EXPECT_EQ(salvato(), "- - - - ") << "the old values stay";
         EXPECT_EQ(avvisi.mostrati.back().titolo, "Attenzione");
@@ -126,21 +125,21 @@ TEST(LeggiInfoMonitor, TellsTheMonitorOrThePrimaryOne) {
                 ElementsAre(28800, 48000, -150, 15210, 15360, 19200));
     EXPECT_THAT((std::array{m.WorkLeft, m.WorkRight, m.WorkTop, m.WorkBottom, m.WorkHeight, m.WorkWidth}),
                 ElementsAre(28800, 48000, 0, 14760, 14760, 19200));
-    EXPECT_EQ(LeggiInfoMonitor(schermi, {90000, 0, 4560, 3030}).hMonitor, 1);
+    for (const double left : {90000., 26000.}) // beside both, and for the most part on the first
+        EXPECT_EQ(LeggiInfoMonitor(schermi, {left, 0, 4560, 3030}).hMonitor, 1);
 }
 
 TEST(Desktop, OutputsThatAreOffOrMirroredGoToTheRight) {
+    const std::vector<std::string> estende{"--output", "HDMI-1", "--auto", "--right-of", "eDP-1"}, niente;
     const std::pair<const char*, std::vector<std::string>> casi[] = {
         {"eDP-1 connected primary 1920x1080+0+0 (normal) 309mm x 173mm\n   1920x1080 60.00*+\nHDMI-1 connected "
          "(normal left)\n   1280x1024 60.02 +\nDP-1 disconnected (normal)\n",
-         {"--output", "HDMI-1", "--auto", "--right-of", "eDP-1"}},
-        {"eDP-1 connected primary 1920x1080+0+0\nHDMI-1 connected 1920x1080+0+0\n",
-         {"--output", "HDMI-1", "--auto", "--right-of", "eDP-1"}},
-        {"eDP-1 connected primary 1920x1080+0+0\nHDMI-1 connected 1280x1024+1920+0\n", {}},
-        {"eDP-1 connected primary 1920x1080+1280+0\nHDMI-1 connected 1280x1024+0+0\n", {}},
-        {"eDP-1 connected primary 1920x1080+0+0\n", {}},
-        {"", {}},
-    };
+         estende},
+        {"eDP-1 connected primary 1920x1080+0+0\nHDMI-1 connected 1920x1080+0+0\n", estende},
+        {"eDP-1 connected primary 1920x1080+0+0\nHDMI-1 connected 1280x1024+1920+0\n", niente},
+        {"eDP-1 connected primary 1920x1080+1280+0\nHDMI-1 connected 1280x1024+0+0\n", niente},
+        {"eDP-1 connected primary 1920x1080+0+0\n", niente},
+        {"", niente}};
     for (const auto& [elenco, argomenti] : casi)
         EXPECT_EQ(argomentiEstensione(elenco), argomenti) << elenco;
 }

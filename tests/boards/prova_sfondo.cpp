@@ -8,19 +8,29 @@
 #include <string>
 
 namespace lumigrafo::prova {
-
 namespace {
-
-void scrivi(const std::filesystem::path& file, const char* testo) {
-    std::ofstream(file) << testo;
-}
 
 class Sfondo : public testing::Test {
 protected:
     BancoVideata banco{TipoVideata::frmLumigrafoPerson};
     CartellaTemporanea altrove;
+    const std::filesystem::path fuori = altrove.percorso() / "festa è qui.JPG",
+                                dentro = banco.cartella.percorso() / "festa è qui.JPG";
 
+    static void scrivi(const std::filesystem::path& file, const char* testo) { std::ofstream(file) << testo; }
+    /// The key of the settings, and what the board shows once it is looked at again.
+    void chiave(const std::string& file) {
+        banco.impostazioni.ScriviIni("Sfondo", "Sfondo", file);
+        if (banco.vista.eventi.attivata)
+            banco.vista.eventi.attivata();
+    }
     [[nodiscard]] std::string chiave() const { return banco.impostazioni.LeggiIni("Sfondo", "Sfondo"); }
+    /// The operator's double click, and the file that he picks; none: he gives up.
+    void scegli(const std::filesystem::path& file) {
+        banco.sceltaFile.scelto = file;
+        const auto eventi = banco.vista.eventi;
+        eventi.doppioClicSfondo();
+    }
     [[nodiscard]] std::string figura() { return banco.controllo("imgSfondo").Figura(); }
     [[nodiscard]] std::string disegno() { return std::string(banco.controllo("imgSfondo").disegno().figura); }
 };
@@ -28,7 +38,7 @@ protected:
 TEST_F(Sfondo, sceltoConUnDoppioClic) {
     banco.videata->Mostra();
     EXPECT_EQ(figura(), disegno());
-    banco.vista.eventi.doppioClicSfondo(); // given up
+    scegli({});
     EXPECT_EQ(figura(), disegno());
     EXPECT_EQ(chiave(), "");
     ASSERT_EQ(banco.sceltaFile.chieste.size(), 1U);
@@ -37,61 +47,50 @@ TEST_F(Sfondo, sceltoConUnDoppioClic) {
     EXPECT_EQ(richiesta.filtro, "Immagini (*.jpg)");
     EXPECT_EQ(richiesta.cartella, banco.cartella.percorso());
 
-    banco.sceltaFile.scelto = altrove.percorso() / "festa è qui.JPG";
-    scrivi(banco.sceltaFile.scelto, "nuova");
-    const auto copia = banco.cartella.percorso() / "festa è qui.JPG";
-    scrivi(copia, "vecchia, e più lunga");
-    banco.vista.eventi.doppioClicSfondo();
-    EXPECT_EQ(leggiFile(copia), "nuova");
-    EXPECT_EQ(chiave(), testoUtf8(copia));
-    EXPECT_EQ(figura(), testoUtf8(copia));
-
-    banco.sceltaFile.scelto = copia; // chosen where it lies already
-    banco.vista.eventi.doppioClicSfondo();
-    EXPECT_EQ(leggiFile(copia), "nuova");
-    EXPECT_EQ(chiave(), testoUtf8(copia));
+    scrivi(fuori, "nuova");
+    scrivi(dentro, "vecchia, e più lunga");
+    for (const auto& scelto : {fuori, dentro}) { // then again where it lies already
+        scegli(scelto);
+        EXPECT_EQ(leggiFile(dentro), "nuova");
+        EXPECT_EQ(chiave(), testoUtf8(dentro));
+        EXPECT_EQ(figura(), testoUtf8(dentro));
+    }
 }
 
 TEST_F(Sfondo, riletteAOgniAttivazione) {
     banco.videata->Mostra();
-    for (const char* nome : {"uno.jpg", "due.jpg"}) {
-        const auto file = testoUtf8(altrove.percorso() / nome);
-        banco.impostazioni.ScriviIni("Sfondo", "Sfondo", file);
-        banco.vista.eventi.attivata();
-        EXPECT_EQ(figura(), file);
+    for (const auto& [valore, file] :
+         {std::pair(testoUtf8(fuori), fuori),
+          {testoUtf8(altrove.percorso() / "due.jpg"), altrove.percorso() / "due.jpg"},
+          {"mio.jpg", banco.cartella.percorso() / "mio.jpg"}, // a bare name
+          {"", banco.cartella.percorso() / "mio.jpg"}}) {     // loads nothing
+        chiave(valore);
+        EXPECT_EQ(figura(), testoUtf8(file));
     }
-    banco.impostazioni.ScriviIni("Sfondo", "Sfondo", "mio.jpg");
-    banco.vista.eventi.attivata();
-    EXPECT_EQ(figura(), testoUtf8(banco.cartella.percorso() / "mio.jpg"));
-    banco.impostazioni.ScriviIni("Sfondo", "Sfondo", "");
-    banco.vista.eventi.attivata();
-    EXPECT_NE(figura(), disegno()) << "an empty key loads nothing";
     EXPECT_EQ(banco.vista.posizionata, 1);
 }
 
 TEST_F(Sfondo, unaFotografiaUgualeNonSiRilegge) {
-    const auto file = altrove.percorso() / "mia.jpg";
-    scrivi(file, "una");
-    banco.impostazioni.ScriviIni("Sfondo", "Sfondo", testoUtf8(file));
+    scrivi(fuori, "una");
+    chiave(testoUtf8(fuori));
     banco.videata->Mostra();
-    Controllo& sfondo = banco.controllo("imgSfondo");
-    EXPECT_EQ(sfondo.Figura(), testoUtf8(file));
-    sfondo.Figura("segno"); // what a new reading would replace
+    EXPECT_EQ(figura(), testoUtf8(fuori));
+    banco.controllo("imgSfondo").Figura("segno"); // what a new reading would replace
     banco.videata->Mostra();
     banco.vista.eventi.attivata();
     EXPECT_EQ(figura(), "segno");
-    scrivi(file, "un'altra");
+    scrivi(fuori, "un'altra");
     banco.videata->Mostra();
-    EXPECT_EQ(figura(), testoUtf8(file)) << "written over";
-    sfondo.Figura("segno");
-    std::filesystem::remove(file);
+    EXPECT_EQ(figura(), testoUtf8(fuori)) << "written over";
+    banco.controllo("imgSfondo").Figura("segno");
+    std::filesystem::remove(fuori);
     banco.videata->Mostra();
-    EXPECT_EQ(figura(), testoUtf8(file)) << "gone: the view says so";
+    EXPECT_EQ(figura(), testoUtf8(fuori)) << "gone: the view says so";
 }
 
 TEST_F(Sfondo, conSoloAndroidRestaIlDisegno) {
     banco.console.soloAndroid = true;
-    banco.impostazioni.ScriviIni("Sfondo", "Sfondo", "/un/altro.jpg");
+    chiave("/un/altro.jpg");
     banco.videata->Mostra();
     banco.videata->Riduci(false);
     banco.vista.eventi.attivata();
@@ -100,19 +99,16 @@ TEST_F(Sfondo, conSoloAndroidRestaIlDisegno) {
 
 TEST_F(Sfondo, videataChiusaMentreSiSceglie) {
     banco.videata->Mostra();
-    banco.sceltaFile.scelto = altrove.percorso() / "festa.jpg";
-    scrivi(banco.sceltaFile.scelto, "x");
+    scrivi(fuori, "x");
     banco.sceltaFile.durante = [&] { banco.videata->Scarica(); };
-    const auto eventi = banco.vista.eventi;
-    eventi.doppioClicSfondo();
+    scegli(fuori);
     EXPECT_FALSE(banco.videata->caricata());
-    EXPECT_EQ(chiave(), testoUtf8(banco.cartella.percorso() / "festa.jpg"));
+    EXPECT_EQ(chiave(), testoUtf8(dentro));
 }
 
 TEST_F(Sfondo, unaCopiaCheNonRiesceFermaTutto) {
     banco.videata->Mostra();
-    banco.sceltaFile.scelto = altrove.percorso() / "manca.jpg";
-    EXPECT_THROW(banco.vista.eventi.doppioClicSfondo(), Guasto);
+    EXPECT_THROW(scegli(fuori), Guasto); // there is no such file
     EXPECT_EQ(chiave(), "");
 }
 
@@ -126,5 +122,4 @@ TEST_F(Sfondo, nonHaTitoloESoloIlColoreDelTesto) {
 }
 
 } // namespace
-
 } // namespace lumigrafo::prova
