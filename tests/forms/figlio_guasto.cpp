@@ -70,12 +70,14 @@ void avvia(const QString& modo) {
     }
     if (modo == QStringLiteral("rete"))
         return falliscePerLaRete();
-    auto* altro = new QTimer(qApp);
-    QObject::connect(altro, &QTimer::timeout, qApp, [modo] {
-        ++altriScatti;
-        fallisci(modo);
-    });
-    altro->start(1);
+    for (int i = 0; i < 2; ++i) { // the second one would go on behind the first one's box
+        auto* altro = new QTimer(qApp);
+        QObject::connect(altro, &QTimer::timeout, qApp, [modo] {
+            ++altriScatti;
+            fallisci(modo);
+        });
+        altro->start(1);
+    }
     QDialog esterno, interno;
     QTimer::singleShot(0, &interno, [&] { interno.exec(); });
     esterno.exec();

@@ -11,16 +11,17 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 using namespace lumigrafo;
 
 namespace {
 
-/// Answers the next box, which must show, by a key or by a button's name.
-template <typename F>
-Risposta rispondi(const Avviso& avviso, F azione) {
+/// Answers the next box, which must show.
+Risposta rispondi(const Avviso& avviso, const std::function<void(FinestraAvviso&)>& azione) {
     QTimer::singleShot(0, qApp, [&azione] {
         auto* box = dynamic_cast<FinestraAvviso*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr);
@@ -39,34 +40,30 @@ void premi(FinestraAvviso& box, const char* nome) {
 
 TEST(Avvisi, DiconoEsattamenteCioCheDevono) {
     const Avviso domanda{"Sei  sicuro?\r\n<b>Davvero</b>", "Attenzione", Icona::Domanda, Bottoni::SiNo};
-    EXPECT_EQ(rispondi(domanda,
-                       [](FinestraAvviso& box) {
-                           EXPECT_EQ(box.testo(), QStringLiteral("Sei  sicuro?\n<b>Davvero</b>"));
-                           EXPECT_EQ(box.windowTitle(), QStringLiteral("Attenzione"));
-                           EXPECT_EQ(box.icona(), Icona::Domanda);
-                           premi(box, "Sì");
-                       }),
-              Risposta::Si);
-    EXPECT_EQ(rispondi(domanda, [](FinestraAvviso& box) { premi(box, "No"); }), Risposta::No);
-    EXPECT_EQ(rispondi(domanda, [](FinestraAvviso& box) { QTest::keyClick(&box, Qt::Key_Escape); }),
-              Risposta::No);
-    EXPECT_EQ(rispondi(domanda,
-                       [](FinestraAvviso& box) {
-                           QWidget* chi = box.focusWidget() ? box.focusWidget() : &box;
-                           QTest::keyClicks(chi,
-                                            QStringLiteral("5996501001233")); // a receipt is scanned over it
-                           QTest::keyClick(chi, Qt::Key_Return);
-                           EXPECT_TRUE(box.isVisible());
-                           premi(box, "No");
-                       }),
-              Risposta::No);
-    EXPECT_EQ(rispondi({"Fatto", "", Icona::Critica, Bottoni::Ok},
-                       [](FinestraAvviso& box) {
-                           EXPECT_EQ(box.windowTitle(), QStringLiteral("Lumigrafo"));
-                           EXPECT_EQ(box.findChildren<QAbstractButton*>().size(), 1);
-                           premi(box, "OK");
-                       }),
-              Risposta::Ok);
+    const Avviso detto{"Fatto", "", Icona::Critica, Bottoni::Ok};
+    const auto si = [](FinestraAvviso& box) {
+        EXPECT_EQ(box.testo(), QStringLiteral("Sei  sicuro?\n<b>Davvero</b>"));
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Attenzione"));
+        EXPECT_EQ(box.icona(), Icona::Domanda);
+        premi(box, "Sì");
+    };
+    const auto scontrino = [](FinestraAvviso& box) { // a receipt is scanned over it
+        QWidget* chi = box.focusWidget() ? box.focusWidget() : &box;
+        QTest::keyClicks(chi, QStringLiteral("5996501001233"));
+        QTest::keyClick(chi, Qt::Key_Return);
+        EXPECT_TRUE(box.isVisible());
+        premi(box, "No");
+    };
+    const auto ok = [](FinestraAvviso& box) {
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Lumigrafo"));
+        EXPECT_EQ(box.findChildren<QAbstractButton*>().size(), 1);
+        premi(box, "OK");
+    };
+    EXPECT_EQ(rispondi(domanda, si), Risposta::Si);
+    EXPECT_EQ(rispondi(domanda, [](auto& box) { premi(box, "No"); }), Risposta::No);
+    EXPECT_EQ(rispondi(domanda, [](auto& box) { QTest::keyClick(&box, Qt::Key_Escape); }), Risposta::No);
+    EXPECT_EQ(rispondi(domanda, scontrino), Risposta::No);
+    EXPECT_EQ(rispondi(detto, ok), Risposta::Ok);
 }
 
 TEST(Avvisi, UnTestoLungoStaTuttoNelloSchermo) {
@@ -101,21 +98,20 @@ std::vector<QLabel*> notificheInVista() {
 
 TEST(Notifiche, StannoUnaSopraLAltraSenzaPrendereLaTastiera) {
     NotificheQt notifiche;
-    for (const char* ip : {"1", "2", "3", "2", "4", "5"})
+    for (const char* ip : {"1", "2", "3", "4", "3", "5"})
         notifiche.NotificaPopup(std::string("Errore connessione a lumigrafo con IP = 10.0.0.") + ip);
     QCoreApplication::processEvents();
-    const auto tutte = notificheInVista();
     QString ordine;
-    for (std::size_t i = 0; i < tutte.size(); ++i) {
-        ordine += tutte[i]->text().back();
-        EXPECT_TRUE(tutte[i]->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
-        EXPECT_GT(tutte[i]->y(), i == 0 ? 0 : tutte[i - 1]->geometry().bottom());
+    int fondo = 0;
+    for (const QLabel* notifica : notificheInVista()) {
+        ordine += notifica->text().back();
+        EXPECT_TRUE(notifica->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        EXPECT_GT(notifica->y(), std::exchange(fondo, notifica->geometry().bottom()));
     }
-    EXPECT_EQ(ordine, QStringLiteral("3245")); // four of them, and none that says the same twice
-    ASSERT_FALSE(tutte.empty());
-    EXPECT_EQ(tutte.front()->text(),
-              QStringLiteral("DEMONE LUMIGRAFO CUCINA\n\nErrore connessione a lumigrafo con IP = 10.0.0.3"));
-    QTest::mouseClick(tutte.front(), Qt::LeftButton);
+    ASSERT_EQ(ordine, QStringLiteral("2435")); // four of them, and none that says the same twice
+    EXPECT_EQ(notificheInVista().front()->text(),
+              QStringLiteral("DEMONE LUMIGRAFO CUCINA\n\nErrore connessione a lumigrafo con IP = 10.0.0.2"));
+    QTest::mouseClick(notificheInVista().front(), Qt::LeftButton);
     EXPECT_EQ(notificheInVista().size(), 3u);
     for (QLabel* resto : notificheInVista())
         resto->close();

@@ -11,8 +11,10 @@ using namespace lumigrafo;
 
 namespace {
 
+using Visti = std::vector<std::pair<std::string, Aspetto>>;
+
 struct Registro : OsservatoreControlli {
-    std::vector<std::pair<std::string, Aspetto>> visti;
+    Visti visti;
     void cambiato(const Controllo& c, Aspetto a) override { visti.emplace_back(c.NomeCompleto(), a); }
 };
 
@@ -23,7 +25,7 @@ TEST(Controlli, SiTrovanoPerNomeEIndice) {
     EXPECT_EQ(c("txtBarCode").NomeCompleto(), "txtBarCode");
     EXPECT_EQ(c.cerca("lblNumero3", 2), nullptr);
     EXPECT_EQ(c.cerca("lblNumero3"), nullptr) << "an array has no element without an index";
-    EXPECT_EQ(prova::fallimento([&] { (void)c("lblNumero3", 7); }).first, 340);
+    EXPECT_EQ(prova::guastoDi([&] { (void)c("lblNumero3", 7); }), 340);
 }
 
 TEST(Controlli, OsservatoreSaDiOgniCambiamentoVero) {
@@ -39,13 +41,10 @@ TEST(Controlli, OsservatoreSaDiOgniCambiamentoVero) {
     n.Visible(false);
     n.ZOrder();
     c("picLogo").Figura("prova"); // the same again: a file may have changed
-    const std::vector<std::pair<std::string, Aspetto>> attesi{{"lblNumero3(0)", Aspetto::Testo},
-                                                              {"lblNumero3(0)", Aspetto::Colori},
-                                                              {"lblNumero3(0)", Aspetto::Geometria},
-                                                              {"lblNumero3(0)", Aspetto::Carattere},
-                                                              {"lblNumero3(0)", Aspetto::Visibilita},
-                                                              {"lblNumero3(0)", Aspetto::Ordine},
-                                                              {"picLogo", Aspetto::Figura}};
+    using enum Aspetto;
+    const std::string nome = "lblNumero3(0)";
+    const Visti attesi{{nome, Testo},      {nome, Colori}, {nome, Geometria},  {nome, Carattere},
+                       {nome, Visibilita}, {nome, Ordine}, {"picLogo", Figura}};
     EXPECT_EQ(registro.visti, attesi);
     c.osserva(nullptr);
     n.Caption("A 14");
@@ -61,7 +60,7 @@ TEST(Controlli, ListeSpunteECursoriTengonoSoloCioCheHanno) {
         lista.AddItem("ORIZZONTALE");
         lista.ListIndex(1);
         for (const int fuori : {2, -2})
-            EXPECT_EQ(prova::fallimento([&] { lista.ListIndex(fuori); }).first, 380) << fuori;
+            EXPECT_EQ(prova::guastoDi([&] { lista.ListIndex(fuori); }), 380) << fuori;
         EXPECT_EQ(lista.ListIndex(), 1);
         lista.Clear();
         EXPECT_EQ(lista.ListIndex(), -1);

@@ -15,6 +15,7 @@ TEST(Scala, OgniAsseSegueLaFinestraEIlCarattereIlPiuPiccolo) {
     EXPECT_EQ(disegno.carattere(9.75), 13);
     EXPECT_EQ(larga.rettangolo({1500, 1500, 1500, 1500}), (RettangoloPixel{300, 200, 300, 200}));
     EXPECT_EQ(larga.carattere(72), 192);
+    EXPECT_EQ(Scala(kQuadrato, 2000, 3000).carattere(72), 192);
     EXPECT_EQ(larga.altezza(150), 20);
     EXPECT_EQ(Scala(kQuadrato, 1, 1).carattere(72), 1) << "type never vanishes";
     EXPECT_EQ(larga.carattere(1e30), 10000) << "nor is it larger than can be drawn";

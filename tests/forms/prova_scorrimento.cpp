@@ -2,18 +2,20 @@
 
 #include <gtest/gtest.h>
 
-using lumigrafo::Scorrimento;
-
 namespace {
 
-Scorrimento lista() {
-    Scorrimento s;
-    s.misure(2000, 500);
-    return s;
-}
+struct ScorrimentoProva : testing::Test {
+    lumigrafo::Scorrimento s;
+    void SetUp() override { s.misure(2000, 500); }
+    /// A finger down, elsewhere after `dopo` milliseconds, and up 5 later.
+    void trascina(int da, int a, double adesso, double dopo = 10) {
+        s.premi(da, adesso);
+        EXPECT_TRUE(s.muovi(a, adesso + dopo));
+        EXPECT_FALSE(s.rilascia(adesso + dopo + 5));
+    }
+};
 
-TEST(Scorrimento, UnTremitoEUnClic) {
-    Scorrimento s = lista();
+TEST_F(ScorrimentoProva, UnTremitoEUnClic) {
     s.premi(100, 0);
     EXPECT_FALSE(s.muovi(106, 10));
     EXPECT_TRUE(s.rilascia(20));
@@ -21,8 +23,7 @@ TEST(Scorrimento, UnTremitoEUnClic) {
     EXPECT_FALSE(s.rilascia(30)) << "a release without a press is no click";
 }
 
-TEST(Scorrimento, SegueIlDitoETieneIBordi) {
-    Scorrimento s = lista();
+TEST_F(ScorrimentoProva, SegueIlDitoETieneIBordi) {
     s.premi(400, 0);
     EXPECT_TRUE(s.muovi(300, 10));
     EXPECT_EQ(s.posizione(), 100);
@@ -40,11 +41,8 @@ TEST(Scorrimento, SegueIlDitoETieneIBordi) {
     EXPECT_EQ(s.massimo(), 0);
 }
 
-TEST(Scorrimento, LanciataCorreEUnToccoLaFerma) {
-    Scorrimento s = lista();
-    s.premi(400, 0);
-    s.muovi(300, 10);
-    s.rilascia(15);
+TEST_F(ScorrimentoProva, LanciataCorreEUnToccoLaFerma) {
+    trascina(400, 300, 0);
     ASSERT_TRUE(s.inMoto());
     s.passo(31);
     EXPECT_GT(s.posizione(), 100);
@@ -55,11 +53,8 @@ TEST(Scorrimento, LanciataCorreEUnToccoLaFerma) {
     EXPECT_TRUE(s.rilascia(120));
 }
 
-TEST(Scorrimento, LaCorsaFinisce) {
-    Scorrimento s = lista();
-    s.premi(400, 0);
-    s.muovi(370, 100);
-    s.rilascia(110);
+TEST_F(ScorrimentoProva, LaCorsaFinisce) {
+    trascina(400, 370, 0, 100);
     double t = 110;
     while (s.inMoto() && t < 10000)
         s.passo(t += 16);
