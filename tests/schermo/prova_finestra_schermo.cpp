@@ -32,9 +32,15 @@ TEST(FinestraSchermo, IlNumeroChiamatoLampeggiaFinoAllAzzeramento) {
     t.font = 12;
     finestra.mostra(t);
     EXPECT_NE(figura(), fermo);
-    t.gruppi[0] = {};
+    t.gruppi[2] = {"Bar", {"B 7"}, rgb(20, 90, 160), kBianco};
+    finestra.mostra(t);
+    for (const auto& [x, sfondo] : {std::pair(160, QColor(177, 50, 30)), {480, QColor(20, 90, 160)}})
+        EXPECT_EQ(figura().pixelColor(x, 340), sfondo); // two stand side by side
+    t.gruppi = {};
     finestra.mostra(t);
     EXPECT_EQ(figura(), attesa);
+    QTest::keyClick(&finestra, Qt::Key_Escape);
+    EXPECT_FALSE(finestra.isVisible());
 }
 
 } // namespace

@@ -69,6 +69,10 @@ TEST_F(Cassa, asksABusyStationAgain) {
         stazione.pezzi.insert(stazione.pezzi.end(), {"RIPROVARE", ""});
     EXPECT_EQ(esegui({"--sigla", "A"}), 1);
     EXPECT_THAT(err.str(), HasSubstr("sempre occupata"));
+    massimo = attese; // broken off
+    stazione.mandato.clear();
+    EXPECT_EQ(esegui({"--sigla", "A"}), 1);
+    EXPECT_EQ(stazione.mandato, "A");
 }
 
 TEST_F(Cassa, goesOnThroughARestartOfTheStation) {
@@ -81,8 +85,15 @@ TEST_F(Cassa, goesOnThroughARestartOfTheStation) {
 }
 
 TEST_F(Cassa, saysWhatIsWrong) {
-    EXPECT_EQ(esegui({"--sigla", "A"}), 1); // nothing in time
-    EXPECT_THAT(err.str(), HasSubstr("non risponde"));
+    using Pezzi = std::deque<std::string>;
+    for (const auto& [pezzi, testo] : {std::pair(Pezzi{}, "non risponde"), // nothing in time
+                                       {Pezzi{"NUMERO "}, "non risponde"},
+                                       {Pezzi{"Codice Cassa errato: A"}, "rifiuta la lettera A"}}) {
+        err.str("");
+        stazione.pezzi = pezzi;
+        EXPECT_EQ(esegui({"--sigla", "A"}), 1);
+        EXPECT_THAT(err.str(), HasSubstr(testo));
+    }
     stazione.assente = true;
     EXPECT_EQ(esegui({"--sigla", "A", "--server", "cucina"}), 1);
     EXPECT_THAT(err.str(), HasSubstr("Nessuna stazione risponde su cucina"));
@@ -92,6 +103,7 @@ TEST_F(Cassa, saysWhatIsWrong) {
         {{"--sigla"}, "Manca il valore di --sigla"},
         {{"--sigla", "F"}, "dalla A alla E, non 'F'"},
         {{"--sigla", "A", "--ogni", "0"}, "da 1 a 86400, non '0'"},
+        {{"--sigla", "A", "--ogni", "86401"}, "da 1 a 86400, non '86401'"},
         {{"--sigla", "A", "--server", ""}, "non può essere vuoto"},
         {{"--sigla", "A", "due"}, "sconosciuto: 'due'"},
     };
