@@ -30,39 +30,63 @@ std::vector<std::shared_ptr<Sessione>> Workspace::aperte() {
 }
 
 void Workspace::BeginTrans() {
-    for (const auto& s : aperte())
-        s->motore().blocca({}, 0);
+    std::vector<std::shared_ptr<Sessione>> iniziate;
+    for (const auto& s : aperte()) {
+        try {
+            s->motore().blocca({}, 0);
+        } catch (const Guasto&) {
+            for (const auto& iniziata : iniziate)
+                ignorandoGuasti([&] { iniziata->sblocca(); });
+            throw;
+        }
+        iniziate.push_back(s);
+    }
 }
 
 void Workspace::CommitTrans() {
     for (const auto& s : aperte())
-        s->motore().sblocca();
+        s->sblocca();
 }
 
 void Workspace::Rollback() {
-    for (const auto& s : aperte()) {
-        s->motore().annulla();
-        s->modificato();
-    }
+    for (const auto& s : aperte())
+        s->annulla();
 }
 
+namespace {
+
+/// Sessions that give way for as long as this lives, or they are open.
+class Cedono {
+public:
+    explicit Cedono(std::vector<std::shared_ptr<Sessione>> sessioni) : sessioni_(std::move(sessioni)) {
+        cedevoli(true);
+    }
+    ~Cedono() { cedevoli(false); }
+    Cedono(const Cedono&) = delete;
+    Cedono& operator=(const Cedono&) = delete;
+
+private:
+    void cedevoli(bool si) {
+        for (const auto& s : sessioni_)
+            if (s->aperta())
+                s->motore().cedevole(si);
+    }
+
+    std::vector<std::shared_ptr<Sessione>> sessioni_;
+};
+
+} // namespace
+
 void Workspace::cedendo(const std::function<void()>& lavoro) {
-    const auto cede = [this](bool si) {
-        for (const auto& s : aperte())
-            s->motore().cedevole(si);
-    };
-    cede(true);
+    const Cedono cedono(aperte());
     for (jet::Pazienza pazienza(attesa_);;) {
         try {
-            lavoro();
-            return cede(false);
+            return lavoro();
         } catch (const Guasto& guasto) {
             const bool bloccato = guasto.numero() == dao::kBloccatoAggiornamento ||
                                   guasto.numero() == dao::kBloccatoSalvataggio;
-            if (!bloccato || !pazienza.ancora()) {
-                cede(false);
+            if (!bloccato || !pazienza.ancora())
                 throw;
-            }
         }
         pazienza.attendi();
     }

@@ -28,8 +28,8 @@ public:
 
     /// Runs one statement that changes rows, whole or not at all; returns how many rows it changed. Throws
     /// Guasto: 3075 (syntax), 3078 (no such table), 3061 (no such column), 3022 (duplicate key), 3218 and
-    /// 3186 (locked by another station for the whole wait), 3027 (read-only), 3065 (a selection), 3420
-    /// (closed).
+    /// 3186 and 3187 (locked by another station for the whole wait), 3027 (read-only), 3065 (a selection),
+    /// 3420 (closed).
     std::int32_t Execute(const std::string& sql) { return sessione_->esegui(sql); }
     /// A table by name or a selection, in the program's SQL. Throws Guasto as Execute does, 3187 for a lock.
     [[nodiscard]] std::unique_ptr<Recordset> OpenRecordset(const std::string& sorgente,
@@ -57,6 +57,7 @@ public:
     /// undone as a whole by Rollback. Throws Guasto 3218 where another station is writing.
     void BeginTrans();
     void CommitTrans();
+    /// An Edit that holds its row is over.
     void Rollback();
     /// Does work that is one transaction, or undoes itself where it throws. Another station may wait for what
     /// this one holds and hold what it waits for: so this one waits for a lock but briefly, gives up what it

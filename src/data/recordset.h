@@ -67,6 +67,9 @@ public:
 
     [[nodiscard]] lumigrafo::Fields& Fields();
 
+    /// The session's transaction was undone: an Edit that held its row is over.
+    void perdiBlocco() noexcept;
+
 private:
     friend class Field;
     enum class Stato { Fermo, Modifica, Nuovo };

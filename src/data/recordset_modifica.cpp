@@ -162,6 +162,12 @@ void Recordset::CancelUpdate() {
     sblocca();
 }
 
+void Recordset::perdiBlocco() noexcept {
+    if (bloccata_)
+        stato_ = Stato::Fermo;
+    bloccata_.reset();
+}
+
 void Recordset::lascia() noexcept {
     stato_ = Stato::Fermo;
     ignorandoGuasti([this] { sblocca(); });

@@ -181,7 +181,28 @@ void Sessione::bloccaRiga(const std::string& tabella, std::int64_t riga) {
 
 void Sessione::sbloccaRiga(const std::string& tabella, std::int64_t riga) {
     std::erase(bloccate_, Riga(minuscolo(tabella), riga));
-    motore().sblocca();
+    sblocca();
+}
+
+void Sessione::sblocca() {
+    try {
+        motore().sblocca();
+    } catch (const Guasto&) { // all of the transaction is undone
+        perdiBlocchi();
+        throw;
+    }
+}
+
+void Sessione::annulla() {
+    motore().annulla();
+    perdiBlocchi();
+}
+
+void Sessione::perdiBlocchi() {
+    bloccate_.clear();
+    for (Recordset* insieme : insiemi_)
+        insieme->perdiBlocco();
+    modificato();
 }
 
 } // namespace lumigrafo

@@ -70,7 +70,12 @@ public:
 
     /// Locks a row until `sbloccaRiga`. Throws Guasto 3188 where another record set of this session holds it.
     void bloccaRiga(const std::string& tabella, std::int64_t riga);
+    /// Throws Guasto where the transaction, of which this was the last lock, can't be written.
     void sbloccaRiga(const std::string& tabella, std::int64_t riga);
+    /// Gives a lock back, or ends a transaction that nests. Throws as `sbloccaRiga` does.
+    void sblocca();
+    /// Undoes the transaction, with all its locks: the sets that were changing a row no longer do.
+    void annulla();
 
     /// Memory for rows. What a set gives back serves the next one, which is most often of the same size.
     [[nodiscard]] Righe prestaRighe() { return std::exchange(scorta_, Righe()); }
@@ -83,6 +88,7 @@ private:
     using Riga = std::pair<std::string, std::int64_t>;
     using Pronta = std::pair<std::string, std::shared_ptr<sqlite3_stmt>>;
 
+    void perdiBlocchi();
     [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione) const;
 
     std::chrono::milliseconds attesa_;

@@ -2,6 +2,7 @@
 
 #include "data/errori_dao.h"
 #include "data/formato.h"
+#include "data/jet/danno.h"
 #include "data/jet/ripara.h"
 #include "data/jet/verifica.h"
 #include "data/motore.h"
@@ -72,16 +73,23 @@ std::vector<std::string> conCopia(const std::filesystem::path& file, const std::
     return fatto;
 }
 
+std::vector<std::string> riparaAccess(const std::filesystem::path& file, const std::filesystem::path& copia) {
+    try {
+        jet::Pagine pagine(file, {.anche_tronco = true, .computer = nomeComputer()});
+        if (pagine.altreStazioni())
+            throw erroreDao(dao::kInUso, file.string());
+        return conCopia(file, copia, [&] { return jet::ripara(pagine); });
+    } catch (const Guasto& guasto) {
+        throw jet::nonRiparabile(guasto);
+    }
+}
+
 } // namespace
 
 std::vector<std::string> riparaArchivio(const std::filesystem::path& file,
                                         const std::filesystem::path& copia) {
-    if (formatoDi(file) == Formato::Access) {
-        jet::Pagine pagine(file, {.computer = nomeComputer()});
-        if (pagine.altreStazioni())
-            throw erroreDao(dao::kInUso, file.string());
-        return conCopia(file, copia, [&] { return jet::ripara(pagine); });
-    }
+    if (formatoDi(file) == Formato::Access)
+        return riparaAccess(file, copia);
     return conCopia(file, copia, [&]() -> std::vector<std::string> {
         const std::unique_ptr<Motore> motore = apriMotore(file, std::chrono::milliseconds(0));
         if (sqlite3_exec(motore->connessione(), "BEGIN EXCLUSIVE; REINDEX; COMMIT", nullptr, nullptr,

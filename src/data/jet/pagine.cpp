@@ -33,7 +33,7 @@ Pagine::Pagine(const std::filesystem::path& file, Apertura apertura)
     if (lunghezza < 3 * kPagina)
         throw nonLetto("Il file è troppo corto per un archivio di Access.");
     intestazione_ = leggiIntestazione(*dalFile(kPaginaIntestazione));
-    if (lunghezza % kPagina != 0)
+    if (lunghezza % kPagina != 0 && !apertura_.anche_tronco)
         throw danno(static_cast<std::uint32_t>(lunghezza / kPagina), "l'ultima pagina è tronca");
     svuota();
     if (apertura_.sola_lettura || apertura_.da_soli)
@@ -85,35 +85,44 @@ void Pagine::leggiParole(Parole& parole) const {
         throw danno(kPaginaIntestazione, "il file è tronco");
 }
 
-bool Pagine::qualcunoScrive(const Parole& parole) const {
+unsigned Pagine::chiScrive(const Parole& parole) const {
     for (unsigned u = 1; u <= Stazione::kMassimo && !apertura_.da_soli; ++u)
         if (parole.di(u) == Parole::kScrive && u != utente() && (!stazione_ || stazione_->presente(u)))
-            return true;
-    return false;
+            return u;
+    return 0;
 }
 
-void Pagine::insisti() {
-    if (stazione_ && std::chrono::steady_clock::now() - inizioTurno_ > kTurnoLungo)
+void Pagine::insisti(bool legge) {
+    if (!stazione_)
+        return;
+    const auto dura = std::chrono::steady_clock::now() - inizioTurno_;
+    if (legge && dura > kTurnoLungo + kPrecedenzaMassima)
+        stazione_->rendiPrecedenza();
+    else if (dura > kTurnoLungo)
         (void)stazione_->chiediPrecedenza(); // another one that asks for it goes first
 }
 
-void Pagine::attendi(Pazienza& pazienza) {
-    insisti();
-    pazienza.attendi();
-}
-
-void Pagine::lasciaPrecedere() const {
-    for (Pazienza pazienza(kPrecedenzaMassima);
-         stazione_ && stazione_->precedeUnAltra() && pazienza.ancora();)
+void Pagine::lasciaPrecedere() {
+    if (!stazione_ || quanteBloccate() != 0) // what is locked may be what the other one waits for
+        return;
+    Pazienza pazienza(std::min(kPrecedenzaMassima, apertura_.attesa));
+    while (stazione_->precedeUnAltra()) {
+        impaziente_ = impaziente_ || !pazienza.ancora();
+        if (impaziente_) // up to the next precedence: that station may have stopped
+            return;
         pazienza.attendi();
+    }
+    impaziente_ = false;
 }
 
-void Pagine::rendiPrecedenza() noexcept {
-    if (stazione_ && turni_ == 0 && quanteBloccate() == 0)
-        stazione_->rendiPrecedenza();
+Guasto Pagine::occupato(int numero, unsigned utente) const {
+    const std::string altra = utente == 0 ? "" : stazione_->nomeDi(utente);
+    return {numero, std::string(numero == kOccupata ? "Impossibile aggiornare" : "Impossibile leggere") +
+                        "; attualmente bloccato da " +
+                        (altra.empty() ? "un'altra stazione." : "'" + altra + "'.")};
 }
 
-std::int64_t Pagine::aggiorna() {
+std::int64_t Pagine::aggiorna(int seOccupato) {
     const Turno turno(*this);
     // Who only reads can't tell a station that writes from one that died at it: no commit takes so long.
     constexpr std::chrono::milliseconds kCommitMassimo{300};
@@ -123,12 +132,14 @@ std::int64_t Pagine::aggiorna() {
     Parole ora;
     leggiParole(ora);
     for (Pazienza pazienza(stazione_ ? apertura_.attesa : std::min(apertura_.attesa, kCommitMassimo));
-         ora != parole_ && qualcunoScrive(ora);) {
-        if (!pazienza.ancora() && !stazione_)
+         ora != parole_;) {
+        const unsigned altra = chiScrive(ora);
+        if (altra == 0 || (!pazienza.ancora() && !stazione_))
             break;
         if (!pazienza.ancora())
-            throw erroreDao(dao::kBloccatoLettura);
-        attendi(pazienza);
+            throw occupato(seOccupato, altra);
+        insisti(true);
+        pazienza.attendi();
         leggiParole(ora);
     }
     if (ora != parole_ || cache_.size() > kCacheMassima) {
@@ -163,6 +174,13 @@ bool Pagine::altreStazioni() const {
         if (stazione_ && stazione_->presente(u))
             return true;
     return false;
+}
+
+bool Pagine::tagliaAvanzo() {
+    const bool avanza = file_.lunghezza() % kPagina != 0;
+    if (avanza)
+        file_.tronca(std::uint64_t{nelFile_} * kPagina);
+    return avanza;
 }
 
 std::vector<unsigned> Pagine::sospette() const {

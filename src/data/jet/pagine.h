@@ -26,6 +26,7 @@ public:
 
     struct Apertura {
         bool sola_lettura = false;
+        bool anche_tronco = false;          ///< a last page that was half written is left out of sight
         bool da_soli = false;               ///< nobody else can know the file: no locks, no .ldb
         std::string computer = "lumigrafo"; ///< our name for the other stations
         std::chrono::milliseconds attesa{5000};
@@ -42,21 +43,25 @@ public:
     /// A page that must be of that type, or Guasto 3049.
     [[nodiscard]] PaginaLetta leggi(std::uint32_t numero, TipoPagina tipo);
 
-    /// Turns to the archive's present state, waiting for whoever is writing. Throws Guasto 3187 where that
-    /// takes too long. Returns the state's number.
-    std::int64_t aggiorna();
+    /// Turns to the archive's present state, waiting for whoever is writing. Throws Guasto, with that number,
+    /// where it takes too long; the text names the station. Returns the state's number.
+    std::int64_t aggiorna(int seOccupato = dao::kBloccatoLettura);
     /// True if the state that `aggiorna` found still stands: what was read since then fits together.
     [[nodiscard]] bool immutata() const;
+    /// What a reading ends with that other stations outrun for the whole wait.
+    enum class SeTardi { UltimaLettura, Guasto3187 };
     /// Reads with one state of the archive behind all of `lettura`; repeats it where another station wrote in
     /// between.
     template <typename Lettura>
-    auto coerente(Lettura&& lettura);
+    auto coerente(Lettura&& lettura, SeTardi seTardi = SeTardi::UltimaLettura);
     /// Words in the state "writing" or "damaged" whose station is gone: the archive may be half written.
     [[nodiscard]] std::vector<unsigned> sospette() const;
     /// Takes such a word back to where all begin: the archive was mended.
     void assolvi(unsigned utente);
     /// Whether another station has the archive open.
     [[nodiscard]] bool altreStazioni() const;
+    /// Cuts a half-written last page off the file. False where there is none.
+    bool tagliaAvanzo();
 
     /// Tells the other stations that a table is in use, for as long as the archive is open. Throws Guasto
     /// where one of them keeps it for itself: 3187 after the wait, or, for writing, 3218 at once.
@@ -78,8 +83,8 @@ public:
     void riserva(std::uint32_t numero);
 
     /// Some work that is done by trying. Who has waited long for other stations in it has precedence up to
-    /// its end, and to that of the transaction: the stations of this program begin no new one, so that the
-    /// many can't keep the one from its turn for ever.
+    /// its end: the stations of this program begin no new transaction, so that the many can't keep the one
+    /// from its turn for ever. They wait for it once and no longer than kPrecedenzaMassima.
     class Turno {
     public:
         explicit Turno(Pagine& pagine) : pagine_(pagine) {
@@ -87,8 +92,8 @@ public:
                 pagine_.inizioTurno_ = std::chrono::steady_clock::now();
         }
         ~Turno() {
-            --pagine_.turni_;
-            pagine_.rendiPrecedenza();
+            if (--pagine_.turni_ == 0 && pagine_.stazione_)
+                pagine_.stazione_->rendiPrecedenza();
         }
         Turno(const Turno&) = delete;
         Turno& operator=(const Turno&) = delete;
@@ -136,8 +141,7 @@ private:
     static constexpr std::chrono::milliseconds kAttesaConBlocchi{2000};
     /// Longer than a hold or two: there are many others, and one of them is always first.
     static constexpr std::chrono::milliseconds kTurnoLungo{50};
-    /// A station that stops with the precedence in its hands stops nobody else.
-    static constexpr std::chrono::milliseconds kPrecedenzaMassima{500};
+    static constexpr std::chrono::milliseconds kPrecedenzaMassima{1000};
     struct StatoVecchio {}; ///< another station committed while a change was being planned
 
     /// A page that the transaction has changed, and the mark under which its present copy was made.
@@ -164,14 +168,16 @@ private:
         const Segno segno_;
     };
 
-    /// Before the next try: asks for precedence where the turn is long already.
-    void insisti();
-    void attendi(Pazienza& pazienza); ///< the same with a pause
-    void lasciaPrecedere() const;
-    void rendiPrecedenza() noexcept;
+    /// Before the next try: asks for precedence where the turn is long already. Who only reads gives it back
+    /// where that was of no use.
+    void insisti(bool legge);
+    void lasciaPrecedere();
     void leggiParole(Parole& parole) const;
     void scriviParola(unsigned utente, std::uint16_t parola);
-    [[nodiscard]] bool qualcunoScrive(const Parole& parole) const;
+    /// The user number of a station that is writing; 0 for none.
+    [[nodiscard]] unsigned chiScrive(const Parole& parole) const;
+    /// What is tried is another station's for too long; `utente`: that station, 0 where it can't be told.
+    [[nodiscard]] Guasto occupato(int numero, unsigned utente) const;
     void svuota();
     [[nodiscard]] std::shared_ptr<Pagina> dalFile(std::uint32_t numero) const;
     [[nodiscard]] std::size_t quanteBloccate() const { return stazione_ ? stazione_->quanteBloccate() : 0; }
@@ -190,7 +196,8 @@ private:
     std::unique_ptr<Stazione> stazione_; ///< none for who reads only or works alone
     int turni_ = 0;
     std::chrono::steady_clock::time_point inizioTurno_;
-    Parole parole_; ///< of the state that the cache belongs to
+    bool impaziente_ = false; ///< the station that has precedence was waited for in vain
+    Parole parole_;           ///< of the state that the cache belongs to
     std::vector<PaginaLetta> cache_;
     std::uint32_t nelFile_ = 0, quante_ = 0;
     std::map<std::uint32_t, Cambiata> cambiate_;
@@ -200,21 +207,22 @@ private:
 };
 
 template <typename Lettura>
-auto Pagine::coerente(Lettura&& lettura) {
+auto Pagine::coerente(Lettura&& lettura, SeTardi seTardi) {
     const Turno turno(*this);
     for (Pazienza pazienza(apertura_.attesa);;) {
         aggiorna();
         try {
             auto esito = lettura();
-            if (immutata() || !pazienza.ancora())
+            if (immutata() || (!pazienza.ancora() && seTardi == SeTardi::UltimaLettura))
                 return esito;
         } catch (const Guasto&) { // what fits together badly may be half of two states, and no damage
             if (immutata())
                 throw;
-            if (!pazienza.ancora())
-                throw erroreDao(dao::kBloccatoLettura);
         }
-        insisti();
+        if (!pazienza.ancora())
+            throw Guasto(dao::kBloccatoLettura,
+                         "Impossibile leggere: altre stazioni scrivono di continuo. Riprovare.");
+        insisti(true);
     }
 }
 
@@ -225,10 +233,9 @@ auto Pagine::cambia(Cambio&& cambio) {
     const std::size_t nostre = quanteBloccate();
     for (Pazienza pazienza(nostre == 0 ? attesa_ : std::min(attesa_, kAttesaConBlocchi));;) {
         bool cominciato = false;
-        if (nostre == 0)
-            lasciaPrecedere();
+        lasciaPrecedere();
         try {
-            aggiorna();
+            aggiorna(kOccupata);
             cominciato = true;
             auto esito = cambio();
             if (!immutata())
@@ -236,13 +243,19 @@ auto Pagine::cambia(Cambio&& cambio) {
             return esito;
         } catch (const StatoVecchio&) {
             passo.annulla(); // what was locked stays so: the next try can't be outrun on it
+            if (!pazienza.ancora()) {
+                sbloccaDa(nostre);
+                throw occupato(kOccupata, 0);
+            }
+            insisti(false);
         } catch (const Guasto& guasto) {
             passo.annulla();
             const bool vecchio = cominciato && !immutata();
             sbloccaDa(nostre);
             if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
                 throw;
-            attendi(pazienza);
+            insisti(false);
+            pazienza.attendi();
         }
     }
 }

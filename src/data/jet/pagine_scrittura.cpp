@@ -39,11 +39,8 @@ void Pagine::bloccaPagina(std::uint32_t numero) {
         throw erroreDao(dao::kSolaLettura);
     if (!stazione_ || stazione_->tiene(numero))
         return;
-    if (!stazione_->blocca(numero)) {
-        const std::string altra = stazione_->titolare(numero);
-        throw Guasto(kOccupata, "Impossibile aggiornare; attualmente bloccato da " +
-                                    (altra.empty() ? "un'altra stazione." : "'" + altra + "'."));
-    }
+    if (!stazione_->blocca(numero))
+        throw occupato(kOccupata, stazione_->titolare(numero));
     if (!immutata() || cambiataNelFile(numero)) // what was read of the page before it was locked may be old
         throw StatoVecchio{};
 }
@@ -215,7 +212,6 @@ void Pagine::abbandona() noexcept {
     dimenticaCambi();
     quante_ = nelFile_;
     sbloccaDa(0);
-    rendiPrecedenza();
 }
 
 } // namespace lumigrafo::jet

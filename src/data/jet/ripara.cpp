@@ -222,6 +222,7 @@ private:
 } // namespace
 
 std::vector<std::string> ripara(Pagine& pagine) {
+    const bool tagliato = pagine.tagliaAvanzo();
     auto fatto = pagine.cambia([&] {
         std::vector<std::string> v;
         const auto voci = leggiCatalogo(pagine);
@@ -240,6 +241,8 @@ std::vector<std::string> ripara(Pagine& pagine) {
         return v;
     });
     pagine.registra();
+    if (tagliato)
+        fatto.insert(fatto.begin(), "Tagliata l'ultima pagina, scritta a metà.");
     for (const unsigned u : pagine.sospette()) {
         pagine.assolvi(u);
         fatto.push_back("Tolto il segno della stazione numero " + std::to_string(u) +

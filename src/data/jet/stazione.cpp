@@ -21,7 +21,7 @@ FileCondiviso::Intervallo postoUtente(unsigned utente) {
 }
 
 FileCondiviso apriFile(const std::filesystem::path& archivio) {
-    auto file = archivio;
+    auto file = std::filesystem::canonical(archivio); // beside the file itself, whatever links lead to it
     file.replace_extension(".ldb");
     try {
         return {file, FileCondiviso::Modo::CreaSeManca};
@@ -51,7 +51,8 @@ bool Stazione::prendi(unsigned utente, const std::string& computer) {
     std::copy_n(computer.begin(), std::min(computer.size(), kNome - 1), voce.begin());
     constexpr std::string_view kUtente = "Admin";
     std::copy(kUtente.begin(), kUtente.end(), voce.begin() + kNome);
-    file_.scrivi((utente - 1) * kVoce, voce);
+    // The lock makes the station: without room for its name it works all the same.
+    ignorandoGuasti([&] { file_.scrivi((utente - 1) * kVoce, voce); });
     return true;
 }
 
@@ -117,8 +118,8 @@ unsigned Stazione::chiBlocca(std::uint64_t inizio, bool ancheCondiviso) const {
     return utente;
 }
 
-std::string Stazione::titolare(std::uint32_t pagina) const {
-    return nomeDi(chiBlocca(kPagine + kPasso * pagina, true));
+unsigned Stazione::titolare(std::uint32_t pagina) const {
+    return chiBlocca(kPagine + kPasso * pagina, true);
 }
 
 bool Stazione::apriTabella(std::uint32_t tabella, bool scrive) {

@@ -55,8 +55,10 @@ public:
     /// How many pages are locked; `sbloccaDa` gives back those that were locked beyond so many.
     [[nodiscard]] std::size_t quanteBloccate() const { return ordine_.size(); }
     void sbloccaDa(std::size_t quante);
-    /// The computer of the station that holds the page; empty where it can't be told any more.
-    [[nodiscard]] std::string titolare(std::uint32_t pagina) const;
+    /// The user number of the station that holds the page; 0 where it can't be told any more.
+    [[nodiscard]] unsigned titolare(std::uint32_t pagina) const;
+    /// The computer of the station with that number; empty for 0, or where it has left no name.
+    [[nodiscard]] std::string nomeDi(unsigned utente) const;
 
 private:
     explicit Stazione(const std::filesystem::path& archivio);
@@ -65,7 +67,6 @@ private:
     [[nodiscard]] unsigned chiBlocca(std::uint64_t inizio, bool ancheCondiviso) const;
     [[noreturn]] static void tuttiPresi();
     [[nodiscard]] FileCondiviso::Intervallo scrittura(std::uint32_t pagina) const;
-    [[nodiscard]] std::string nomeDi(unsigned utente) const; ///< empty for 0
 
     FileCondiviso file_;
     unsigned utente_ = 0;

@@ -228,7 +228,8 @@ private:
 } // namespace
 
 Esame verifica(Pagine& pagine) {
-    Esame esame = pagine.coerente([&] { return Visita(pagine).esegui(); });
+    // Half of two states isn't damage.
+    Esame esame = pagine.coerente([&] { return Visita(pagine).esegui(); }, Pagine::SeTardi::Guasto3187);
     for (const unsigned u : pagine.sospette())
         esame.discordanze.push_back("La stazione numero " + std::to_string(u) +
                                     " è caduta mentre scriveva: l'archivio è sospetto.");

@@ -40,7 +40,8 @@ std::int32_t dataCompetenza(const DataOra& adesso) {
 Cassa::Cassa(Database& db, std::int32_t dataCompetenza)
     : db_(db), data_(dataCompetenza), coda_(perAggiungere(db, "Lumigrafo")),
       dettagli_(perAggiungere(db, "DettaglioLumigrafo")), articoli_(perAggiungere(db, "Dettaglio")),
-      scontrini_(perAggiungere(db, "ScontriniEmessi")) {}
+      scontrini_(perAggiungere(db, "ScontriniEmessi")),
+      totali_(ignorandoGuasti([this] { (void)articoli_->Fields()["Totale"]; })) {}
 
 void Cassa::registra(const Ordine& ordine) {
     scriviCoda(ordine);
@@ -93,7 +94,8 @@ double Cassa::scriviArticoli(const Ordine& ordine, const Voce& voce) {
         campi["Descrizione"].Value(a.descrizione);
         campi["Quantita"].Value(a.quantita);
         campi["Prezzo"].Value(a.prezzo);
-        campi["Totale"].Value(a.quantita * a.prezzo);
+        if (totali_) // not every cash side's table has it
+            campi["Totale"].Value(a.quantita * a.prezzo);
         scriviServito(*articoli_, voce);
         articoli_->Update();
         totale += a.quantita * a.prezzo;

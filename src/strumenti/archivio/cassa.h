@@ -54,6 +54,7 @@ private:
     Database& db_;
     std::int32_t data_;
     std::unique_ptr<Recordset> coda_, dettagli_, articoli_, scontrini_;
+    bool totali_; ///< the articles have a column for them
 };
 
 } // namespace lumigrafo::archivio
