@@ -74,6 +74,14 @@ TEST_F(Strumento, CreaEAggiungeUnOrdine) {
                          "Le casse stanno servendo il numero 7.\n");
 }
 
+TEST_F(Strumento, UnOrdinePerCasseCheNonTengonoITotali) {
+    ASSERT_EQ((*this)({"crea", cartella}), 0);
+    ws.OpenDatabase(cartella + "/" + kFileArchivio)->Execute("ALTER TABLE Dettaglio DROP COLUMN Totale");
+    EXPECT_EQ((*this)({"ordine", cartella, "--sigla", "A", "--numero", "1", "--categoria", "2=3"}), 0)
+        << err.str();
+    EXPECT_EQ(leggi("Select Quantita, Prezzo from Dettaglio"), "3|5");
+}
+
 TEST_F(Strumento, UnOrdineDoppioNonLasciaTracce) {
     ASSERT_EQ((*this)({"crea", cartella}), 0);
     ASSERT_EQ((*this)({"ordine", cartella, "--sigla", "B", "--numero", "3", "--categoria", "1=1"}), 0);

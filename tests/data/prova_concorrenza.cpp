@@ -1,5 +1,6 @@
 // What two stations do to each other, with two real processes.
 #include "platform/computer.h"
+#include "platform/file_condiviso.h"
 #include "tests/data/con_archivio.h"
 #include "tests/data/stazione.h"
 
@@ -108,6 +109,46 @@ TEST_F(Concorrenza, ChiAttendeDaTantoVienePrimaDiChiRicomincia) {
                   0);
     }
     EXPECT_EQ(archivio.leggi("SELECT Pezzi2 FROM Lumigrafo"), "9");
+}
+
+TEST_F(Concorrenza, ChiTieneUnaRigaNonTrattieneGliAltri) {
+    if (!prova::archiviAccess())
+        GTEST_SKIP() << "who holds a row of such an archive has locked all of it";
+    fa(altra, {apri});
+    altra.manda("occupa 100");
+    Workspace paziente{5s};
+    const auto nostro = paziente.OpenDatabase(file.string());
+    const auto rs = nostro->OpenRecordset("Lumigrafo");
+    auto blocchi = file;
+    const FileCondiviso ldb(blocchi.replace_extension(".ldb"), FileCondiviso::Modo::Lettura);
+    bool libera = false; // now and then the other one has asked for precedence already
+    for (int i = 0; i < 5 && !libera; ++i) {
+        rs->Edit(); // after a wait that gave it precedence
+        libera = !ldb.bloccoAltrui({0x100000000, 1}, false);
+        rs->CancelUpdate();
+    }
+    EXPECT_TRUE(libera);
+}
+
+TEST_F(Concorrenza, UnaTransazioneSuDueArchiviIniziaInTuttiEDueOInNessuno) {
+    if (prova::archiviAccess())
+        GTEST_SKIP() << "to begin locks nothing of such an archive";
+    const auto secondo = cartella.percorso() / "secondo.mdb";
+    const prova::ArchivioProva la(secondo);
+    const auto dbLa = ws.OpenDatabase(secondo.string());
+    fa(altra, {"apri " + secondo.string(), "inizia"});
+    EXPECT_EQ(guastoDi([&] { ws.BeginTrans(); }), 3218);
+    db->Execute("UPDATE Lumigrafo SET Pezzi1 = 5");
+    EXPECT_EQ(pezzi(), "5");
+}
+
+TEST_F(Concorrenza, UnCollegamentoPortaAgliStessiBlocchi) {
+    const auto collegato = cartella.percorso() / "altro nome.mdb";
+    std::filesystem::create_symlink(file, collegato);
+    fa(altra, {"attesa 50", "apri " + collegato.string()});
+    const auto rs = db->OpenRecordset("Lumigrafo");
+    rs->Edit();
+    EXPECT_EQ(altra("edit Numero = 12").substr(0, 5), "3218 ");
 }
 
 TEST_F(Concorrenza, DiDueCheSiAspettanoAVicendaUnoCede) {

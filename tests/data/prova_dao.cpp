@@ -315,6 +315,19 @@ TEST_F(Dao, Transazioni) {
     EXPECT_EQ(archivio.coda(), "A2 B1");
 }
 
+TEST_F(Dao, UnaTransazioneAnnullataFinisceLeModificheCheTenevanoLeLoroRighe) {
+    rs->Edit();
+    rs->Fields()["Pezzi1"].Value(66);
+    ws.Rollback();
+    archivio.esegui("UPDATE Lumigrafo SET Pezzi1 = 77"); // nothing is locked any more
+    EXPECT_EQ(guastoDi([&] { rs->Update(); }), 3020);
+    ws.BeginTrans();
+    db->Execute("UPDATE Lumigrafo SET Pezzi1 = 88");
+    rs->Requery(); // gives back no lock of the transaction's
+    ws.Rollback();
+    EXPECT_EQ(archivio.leggi("SELECT DISTINCT Pezzi1 FROM Lumigrafo"), "77");
+}
+
 using ArchivioAltrui = ConArchivio;
 
 TEST_F(ArchivioAltrui, TestiSenzaMaiuscole) {

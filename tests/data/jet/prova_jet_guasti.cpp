@@ -94,6 +94,24 @@ TEST_F(JetGuasti, UnaStazioneCheLasciaStareLeParole) {
     EXPECT_EQ(campi[1], scriviDato(qui.definizione().colonne[1], std::int64_t{77}));
 }
 
+TEST_F(JetGuasti, ChiRegistraVedeQuelCheGliAltriHannoRegistratoIntanto) {
+    Pagine qui(file, {});
+    Tabella seconda = tabella(qui, "Seconda");
+    EXPECT_EQ(seconda.righe().size(), 60u);
+    aggiungi(qui, "Prima", 61, 61);
+    {
+        Pagine altrove(file, {});
+        Tabella la = tabella(altrove, "Seconda");
+        la.aggiorna(la.righe().front().posizione,
+                    {{1, scriviDato(la.definizione().colonne[1], std::int64_t{77})}});
+        altrove.registra();
+    }
+    qui.registra();
+    const auto prima = seconda.righe().front();
+    EXPECT_EQ(Riga(seconda.definizione(), prima.riga.byte).campi()[1],
+              scriviDato(seconda.definizione().colonne[1], std::int64_t{77}));
+}
+
 TEST_F(JetGuasti, UnFileSostituitoMentreEInUsoNonSiUsaPiu) {
     for (const char* estensione : {".mdb", ".ldb"}) {
         Pagine pagine(file, {});
@@ -118,6 +136,28 @@ TEST_F(JetGuasti, UnFileTroncatoFraDuePagineNonPerdeRigheInSilenzio) {
     Pagine pagine(file, {.attesa = std::chrono::milliseconds(0)});
     EXPECT_EQ(guastoDi([&] { (void)tabella(pagine, "Seconda").righe(); }), dao::kDanneggiato);
     EXPECT_FALSE(verifica(pagine).discordanze.empty());
+}
+
+TEST_F(JetGuasti, QuelCheRestaDiUnFileDannoso) {
+    std::uint32_t pagina = 0;
+    {
+        Pagine pagine(file, {.sola_lettura = true});
+        pagina = Mappa(pagine, tabella(pagine, "Seconda").definizione().possedute).tutte().back();
+    }
+    std::string dannoso = byte();
+    dannoso.replace(std::size_t{pagina} * kPagina, kPagina, kPagina, '\0');
+    std::ofstream(file, std::ios::binary) << dannoso << "a page half written";
+    EXPECT_EQ(guastoDi([&] { (void)verificaArchivio(file); }), dao::kDanneggiato);
+    const auto copia = cartella.percorso() / "prima.mdb";
+    EXPECT_EQ(riparaArchivio(file, copia).front(), "Tagliata l'ultima pagina, scritta a metà.");
+    EXPECT_EQ(discordanze(), std::vector<std::string>());
+    EXPECT_EQ(tabella(*std::make_unique<Pagine>(file, Pagine::Apertura{}), "Prima").righe().size(), 60u);
+    // Without its catalog nothing can be told of the tables.
+    dannoso.replace(2 * kPagina, kPagina, kPagina, '\0');
+    std::ofstream(file, std::ios::binary) << dannoso;
+    const auto [numero, testo] = prova::fallimento([&] { (void)riparaArchivio(file, copia); });
+    EXPECT_EQ(numero, dao::kDanneggiato);
+    EXPECT_TRUE(testo.ends_with("Non si può riparare: va ripresa una copia.")) << testo;
 }
 
 TEST_F(JetGuasti, RiparareUnaMappaDannosaNonToccaLeTabelleAltrui) {

@@ -255,5 +255,22 @@ TEST_F(JetVincoli, ChiaviTroppoLungheENulliRichiesti) {
     EXPECT_EQ(verifica(pagine).discordanze, std::vector<std::string>());
 }
 
+TEST_F(JetVincoli, UnaChiaveNuovaInFondoAUnAlberoCheHaPersoLaCoda) {
+    Pagine pagine(file, {.da_soli = true});
+    creaTabella(pagine, {"Righe", {{"N", Tipo::Lungo}}, {{.nome = "N", .colonne = {0}, .unico = true}}});
+    Tabella righe = tabella(pagine, "Righe");
+    const auto inserisce = [&](std::int64_t n) {
+        return righe.inserisci({scriviDato(righe.definizione().colonne[0], n)});
+    };
+    std::vector<Posizione> posizioni;
+    for (int n = 0; n < 1500; ++n)
+        posizioni.push_back(inserisce(n));
+    for (std::size_t n = 300; n < posizioni.size(); ++n)
+        righe.elimina(posizioni[n]);
+    for (const std::int64_t n : {5000, 6000})
+        inserisce(n);
+    EXPECT_EQ(verifica(pagine).discordanze, std::vector<std::string>());
+}
+
 } // namespace
 } // namespace lumigrafo::jet
