@@ -97,8 +97,8 @@ TEST_F(JetGuasti, UnaStazioneCheLasciaStareLeParole) {
 TEST_F(JetGuasti, ChiRegistraVedeQuelCheGliAltriHannoRegistratoIntanto) {
     Pagine qui(file, {});
     Tabella seconda = tabella(qui, "Seconda");
-    EXPECT_EQ(seconda.righe().size(), 60u);
     aggiungi(qui, "Prima", 61, 61);
+    EXPECT_EQ(seconda.righe().size(), 60u);
     {
         Pagine altrove(file, {});
         Tabella la = tabella(altrove, "Seconda");
