@@ -21,7 +21,10 @@ FileCondiviso::Intervallo postoUtente(unsigned utente) {
 }
 
 FileCondiviso apriFile(const std::filesystem::path& archivio) {
-    auto file = std::filesystem::canonical(archivio); // beside the file itself, whatever links lead to it
+    std::error_code ec; // beside the file itself, whatever links lead to it
+    auto file = std::filesystem::canonical(archivio, ec);
+    if (ec)
+        file = archivio;
     file.replace_extension(".ldb");
     try {
         return {file, FileCondiviso::Modo::CreaSeManca};
