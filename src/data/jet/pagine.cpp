@@ -44,6 +44,7 @@ Pagine::Pagine(const std::filesystem::path& file, Apertura apertura)
         // A number whose last station died while it wrote keeps telling so until the archive is mended.
         return ora.di(u) != Parole::kScrive && ora.di(u) != Parole::kDanno;
     });
+    precedenza_.di(stazione_.get());
 }
 
 std::shared_ptr<Pagina> Pagine::dalFile(std::uint32_t numero) const {
@@ -92,27 +93,9 @@ unsigned Pagine::chiScrive(const Parole& parole) const {
     return 0;
 }
 
-void Pagine::insisti(bool legge) {
-    if (!stazione_)
-        return;
-    const auto dura = std::chrono::steady_clock::now() - inizioTurno_;
-    if (legge && dura > kTurnoLungo + kPrecedenzaMassima)
-        stazione_->rendiPrecedenza();
-    else if (dura > kTurnoLungo)
-        (void)stazione_->chiediPrecedenza(); // another one that asks for it goes first
-}
-
 void Pagine::lasciaPrecedere() {
-    if (!stazione_ || quanteBloccate() != 0) // what is locked may be what the other one waits for
-        return;
-    Pazienza pazienza(std::min(kPrecedenzaMassima, apertura_.attesa));
-    while (stazione_->precedeUnAltra()) {
-        impaziente_ = impaziente_ || !pazienza.ancora();
-        if (impaziente_) // up to the next precedence: that station may have stopped
-            return;
-        pazienza.attendi();
-    }
-    impaziente_ = false;
+    if (quanteBloccate() == 0) // what is locked may be what the other one waits for
+        precedenza_.lascia(apertura_.attesa);
 }
 
 Guasto Pagine::occupato(int numero, unsigned utente) const {
@@ -123,7 +106,7 @@ Guasto Pagine::occupato(int numero, unsigned utente) const {
 }
 
 std::int64_t Pagine::aggiorna(int seOccupato) {
-    const Turno turno(*this);
+    const Precedenza::Turno turno(precedenza_);
     // Who only reads can't tell a station that writes from one that died at it: no commit takes so long.
     constexpr std::chrono::milliseconds kCommitMassimo{300};
     if (!file_.alSuoPosto() || (stazione_ && !stazione_->valida()))
@@ -138,7 +121,7 @@ std::int64_t Pagine::aggiorna(int seOccupato) {
             break;
         if (!pazienza.ancora())
             throw occupato(seOccupato, altra);
-        insisti(true);
+        precedenza_.insisti(true);
         pazienza.attendi();
         leggiParole(ora);
     }

@@ -4,6 +4,7 @@
 #include "data/jet/intestazione.h"
 #include "data/jet/parole.h"
 #include "data/jet/pazienza.h"
+#include "data/jet/precedenza.h"
 #include "data/jet/stazione.h"
 #include "platform/file_condiviso.h"
 
@@ -82,30 +83,12 @@ public:
     /// The same as a change of its own.
     void riserva(std::uint32_t numero);
 
-    /// Some work that is done by trying. Who has waited long for other stations in it has precedence up to
-    /// its end: the stations of this program begin no new transaction, so that the many can't keep the one
-    /// from its turn for ever. They wait for it once and no longer than kPrecedenzaMassima.
-    class Turno {
-    public:
-        explicit Turno(Pagine& pagine) : pagine_(pagine) {
-            if (pagine_.turni_++ == 0)
-                pagine_.inizioTurno_ = std::chrono::steady_clock::now();
-        }
-        ~Turno() {
-            if (--pagine_.turni_ == 0 && pagine_.stazione_)
-                pagine_.stazione_->rendiPrecedenza();
-        }
-        Turno(const Turno&) = delete;
-        Turno& operator=(const Turno&) = delete;
-
-    private:
-        Pagine& pagine_;
-    };
     /// While it lives, `cambia` waits for other stations at most a twentieth of the whole wait: who gives up
     /// what it holds then tries again, within the same turn.
     class AttesaBreve {
     public:
-        explicit AttesaBreve(Pagine& pagine) : turno_(pagine), pagine_(pagine), prima_(pagine.attesa_) {
+        explicit AttesaBreve(Pagine& pagine)
+            : turno_(pagine.precedenza_), pagine_(pagine), prima_(pagine.attesa_) {
             pagine_.attesa_ = prima_ / 20;
         }
         ~AttesaBreve() { pagine_.attesa_ = prima_; }
@@ -113,7 +96,7 @@ public:
         AttesaBreve& operator=(const AttesaBreve&) = delete;
 
     private:
-        Turno turno_;
+        Precedenza::Turno turno_;
         Pagine& pagine_;
         std::chrono::milliseconds prima_;
     };
@@ -139,9 +122,6 @@ public:
 
 private:
     static constexpr std::chrono::milliseconds kAttesaConBlocchi{2000};
-    /// Longer than a hold or two: there are many others, and one of them is always first.
-    static constexpr std::chrono::milliseconds kTurnoLungo{50};
-    static constexpr std::chrono::milliseconds kPrecedenzaMassima{1000};
     struct StatoVecchio {}; ///< another station committed while a change was being planned
 
     /// A page that the transaction has changed, and the mark under which its present copy was made.
@@ -168,9 +148,6 @@ private:
         const Segno segno_;
     };
 
-    /// Before the next try: asks for precedence where the turn is long already. Who only reads gives it back
-    /// where that was of no use.
-    void insisti(bool legge);
     void lasciaPrecedere();
     void leggiParole(Parole& parole) const;
     void scriviParola(unsigned utente, std::uint16_t parola);
@@ -194,10 +171,8 @@ private:
     FileCondiviso file_;
     Intestazione intestazione_;
     std::unique_ptr<Stazione> stazione_; ///< none for who reads only or works alone
-    int turni_ = 0;
-    std::chrono::steady_clock::time_point inizioTurno_;
-    bool impaziente_ = false; ///< the station that has precedence was waited for in vain
-    Parole parole_;           ///< of the state that the cache belongs to
+    Precedenza precedenza_;
+    Parole parole_; ///< of the state that the cache belongs to
     std::vector<PaginaLetta> cache_;
     std::uint32_t nelFile_ = 0, quante_ = 0;
     std::map<std::uint32_t, Cambiata> cambiate_;
@@ -208,7 +183,7 @@ private:
 
 template <typename Lettura>
 auto Pagine::coerente(Lettura&& lettura, SeTardi seTardi) {
-    const Turno turno(*this);
+    const Precedenza::Turno turno(precedenza_);
     for (Pazienza pazienza(apertura_.attesa);;) {
         aggiorna();
         try {
@@ -222,13 +197,13 @@ auto Pagine::coerente(Lettura&& lettura, SeTardi seTardi) {
         if (!pazienza.ancora())
             throw Guasto(dao::kBloccatoLettura,
                          "Impossibile leggere: altre stazioni scrivono di continuo. Riprovare.");
-        insisti(true);
+        precedenza_.insisti(true);
     }
 }
 
 template <typename Cambio>
 auto Pagine::cambia(Cambio&& cambio) {
-    const Turno turno(*this);
+    const Precedenza::Turno turno(precedenza_);
     Passo passo(*this);
     const std::size_t nostre = quanteBloccate();
     for (Pazienza pazienza(nostre == 0 ? attesa_ : std::min(attesa_, kAttesaConBlocchi));;) {
@@ -247,14 +222,14 @@ auto Pagine::cambia(Cambio&& cambio) {
                 sbloccaDa(nostre);
                 throw occupato(kOccupata, 0);
             }
-            insisti(false);
+            precedenza_.insisti(false);
         } catch (const Guasto& guasto) {
             passo.annulla();
             const bool vecchio = cominciato && !immutata();
             sbloccaDa(nostre);
             if (!vecchio && (guasto.numero() != kOccupata || !pazienza.ancora()))
                 throw;
-            insisti(false);
+            precedenza_.insisti(false);
             pazienza.attendi();
         }
     }
