@@ -121,7 +121,7 @@ std::int64_t Pagine::aggiorna(int seOccupato) {
             break;
         if (!pazienza.ancora())
             throw occupato(seOccupato, altra);
-        precedenza_.insisti(true);
+        precedenza_.insisti(seOccupato != kOccupata);
         pazienza.attendi();
         leggiParole(ora);
     }
