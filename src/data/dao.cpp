@@ -33,10 +33,10 @@ void Workspace::BeginTrans() {
     std::vector<std::shared_ptr<Sessione>> iniziate;
     for (const auto& s : aperte()) {
         try {
-            s->motore().blocca({}, 0);
+            s->inizia();
         } catch (const Guasto&) {
             for (const auto& iniziata : iniziate)
-                ignorandoGuasti([&] { iniziata->sblocca(); });
+                ignorandoGuasti([&] { iniziata->conferma(); });
             throw;
         }
         iniziate.push_back(s);
@@ -45,7 +45,7 @@ void Workspace::BeginTrans() {
 
 void Workspace::CommitTrans() {
     for (const auto& s : aperte())
-        s->sblocca();
+        s->conferma();
 }
 
 void Workspace::Rollback() {

@@ -56,6 +56,7 @@ public:
     /// What is written from here on, in every archive that is open, is kept as a whole by CommitTrans or
     /// undone as a whole by Rollback. Throws Guasto 3218 where another station is writing.
     void BeginTrans();
+    /// Without BeginTrans it does nothing.
     void CommitTrans();
     /// An Edit that holds its row is over.
     void Rollback();

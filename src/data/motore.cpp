@@ -38,6 +38,10 @@ void Motore::sblocca() {
     rilascia();
 }
 
+bool Motore::perduta() const {
+    return blocchi_ > 0 && sqlite3_get_autocommit(connessione()) != 0;
+}
+
 void Motore::annulla() noexcept {
     if (sqlite3_get_autocommit(connessione()) == 0)
         sqlite3_exec(connessione(), "ROLLBACK", nullptr, nullptr, nullptr);

@@ -49,6 +49,8 @@ public:
     virtual void cedevole(bool) {}
     /// Undoes the transaction and gives every lock back.
     void annulla() noexcept;
+    /// A statement failed in such a way (a full disk) that SQLite has undone the transaction by itself.
+    [[nodiscard]] bool perduta() const;
 
 private:
     /// The statement that begins a transaction.

@@ -108,7 +108,7 @@ void Recordset::scriviModifica() {
         for (std::size_t i = 0; i < valori.size(); ++i)
             scrive.lega(static_cast<int>(i) + 1, *valori[i]);
         scrive.lega(static_cast<int>(valori.size()) + 1, righe_.chiave(inModifica_));
-        scrive.passo();
+        sessione_->cambia([&] { scrive.passo(); });
         sessione_->modificato();
         if (!rileggi(inModifica_)) { // another set of this program deleted it in the meantime
             lascia();
@@ -179,12 +179,13 @@ void Recordset::Delete() {
     const std::size_t riga = corrente();
     const std::int64_t chiave = righe_.chiave(riga);
     bloccaERileggi(riga);
+    inModifica_ = riga;
     try {
         Istruzione toglie =
             sessione_->prepara("DELETE FROM " + traVirgolette(selezione_->tabella) + " WHERE _rowid_=?1",
                                Operazione::Aggiornamento);
         toglie.lega(1, chiave);
-        toglie.passo();
+        sessione_->cambia([&] { toglie.passo(); });
         sessione_->modificato();
     } catch (const Guasto&) {
         lascia();

@@ -152,13 +152,23 @@ std::int32_t Sessione::esegui(std::string_view sql) {
     return sqlite3_total_changes(db) == prima ? 0 : sqlite3_changes(db);
 }
 
+void Sessione::cambia(const std::function<void()>& cambio) {
+    try {
+        cambio();
+    } catch (const Guasto&) {
+        if (motore().perduta())
+            annulla();
+        throw;
+    }
+}
+
 void Sessione::ripetendo(const std::function<void()>& cambio) {
     // Inside a transaction a lock is waited for to the end; a statement alone gives up what it holds instead.
     const bool solo = sqlite3_get_autocommit(motore().connessione()) != 0;
     const Cedevole cede(solo ? &motore() : nullptr);
     for (jet::Pazienza pazienza(attesa_);;) {
         try {
-            return cambio();
+            return cambia(cambio);
         } catch (const Guasto& guasto) {
             const bool cambiata = guasto.numero() == dao::kCambiatoDaAltri;
             const bool bloccata = guasto.numero() == dao::kBloccatoAggiornamento ||
@@ -193,12 +203,25 @@ void Sessione::sblocca() {
     }
 }
 
+void Sessione::inizia() {
+    motore().blocca({}, 0);
+    ++transazioni_;
+}
+
+void Sessione::conferma() {
+    if (transazioni_ == 0) // what is locked belongs to an Edit
+        return;
+    --transazioni_;
+    sblocca();
+}
+
 void Sessione::annulla() {
     motore().annulla();
     perdiBlocchi();
 }
 
 void Sessione::perdiBlocchi() {
+    transazioni_ = 0;
     bloccate_.clear();
     for (Recordset* insieme : insiemi_)
         insieme->perdiBlocco();

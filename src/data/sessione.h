@@ -58,7 +58,9 @@ public:
 
     /// A statement in SQLite's own dialect. The latest ones are kept prepared.
     [[nodiscard]] Istruzione prepara(const std::string& sql, Operazione operazione);
-    /// Runs a change, again and again for the whole wait where the engine says so and another station was in
+    /// Runs a change. Where its failure has cost the transaction, all of that is undone here too.
+    void cambia(const std::function<void()>& cambio);
+    /// The same, again and again for the whole wait where the engine says so and another station was in
     /// the way.
     void ripetendo(const std::function<void()>& cambio);
     /// Runs a statement that changes rows; returns how many.
@@ -72,8 +74,10 @@ public:
     void bloccaRiga(const std::string& tabella, std::int64_t riga);
     /// Throws Guasto where the transaction, of which this was the last lock, can't be written.
     void sbloccaRiga(const std::string& tabella, std::int64_t riga);
-    /// Gives a lock back, or ends a transaction that nests. Throws as `sbloccaRiga` does.
-    void sblocca();
+    /// Begins a transaction; they nest. Throws Guasto 3218.
+    void inizia();
+    /// Ends the innermost; without one, nothing happens. Throws as `sbloccaRiga` does.
+    void conferma();
     /// Undoes the transaction, with all its locks: the sets that were changing a row no longer do.
     void annulla();
 
@@ -88,6 +92,7 @@ private:
     using Riga = std::pair<std::string, std::int64_t>;
     using Pronta = std::pair<std::string, std::shared_ptr<sqlite3_stmt>>;
 
+    void sblocca();
     void perdiBlocchi();
     [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione) const;
 
@@ -95,6 +100,7 @@ private:
     std::unique_ptr<Motore> motore_;
     Dialetto dialetto_;
     std::vector<Pronta> pronte_; ///< the latest used first
+    int transazioni_ = 0;        ///< begun and not ended, beside the locked rows
     std::vector<Riga> bloccate_;
     std::vector<Recordset*> insiemi_;
     Righe scorta_;

@@ -76,6 +76,8 @@ std::vector<std::string> conCopia(const std::filesystem::path& file, const std::
 std::vector<std::string> riparaAccess(const std::filesystem::path& file, const std::filesystem::path& copia) {
     try {
         jet::Pagine pagine(file, {.anche_tronco = true, .computer = nomeComputer()});
+        if (pagine.solaLettura())
+            throw erroreDao(dao::kSolaLettura);
         if (pagine.altreStazioni())
             throw erroreDao(dao::kInUso, file.string());
         return conCopia(file, copia, [&] { return jet::ripara(pagine); });

@@ -12,6 +12,12 @@ namespace {
 /// Pages kept in memory at most: 128 MB. Beyond them the cache begins anew.
 constexpr std::size_t kCacheMassima = 32768;
 
+/// `altra`: the computer that stands in the way, empty where it can't be told.
+Guasto negato(int numero, const char* perche, const std::string& altra) {
+    return {numero, std::string(numero == kOccupata ? "Impossibile aggiornare; " : "Impossibile leggere; ") +
+                        perche + " da " + (altra.empty() ? "un'altra stazione." : "'" + altra + "'.")};
+}
+
 FileCondiviso apriFile(const std::filesystem::path& file, Pagine::Apertura& apertura) {
     if (!apertura.sola_lettura) {
         try {
@@ -99,10 +105,7 @@ void Pagine::lasciaPrecedere() {
 }
 
 Guasto Pagine::occupato(int numero, unsigned utente) const {
-    const std::string altra = utente == 0 ? "" : stazione_->nomeDi(utente);
-    return {numero, std::string(numero == kOccupata ? "Impossibile aggiornare" : "Impossibile leggere") +
-                        "; attualmente bloccato da " +
-                        (altra.empty() ? "un'altra stazione." : "'" + altra + "'.")};
+    return negato(numero, "attualmente bloccato", utente == 0 ? "" : stazione_->nomeDi(utente));
 }
 
 std::int64_t Pagine::aggiorna(int seOccupato) {
@@ -145,10 +148,7 @@ void Pagine::usaTabella(std::uint32_t definizione, bool scrive) {
         if (!scrive && pazienza.ancora())
             continue;
         const std::string altra = stazione_->titolareTabella(definizione);
-        throw Guasto(scrive ? kOccupata : dao::kBloccatoLettura,
-                     std::string(scrive ? "Impossibile aggiornare" : "Impossibile leggere") +
-                         "; la tabella è riservata da " +
-                         (altra.empty() ? "un'altra stazione." : "'" + altra + "'."));
+        throw negato(scrive ? kOccupata : dao::kBloccatoLettura, "la tabella è riservata", altra);
     }
 }
 
@@ -160,10 +160,11 @@ bool Pagine::altreStazioni() const {
 }
 
 bool Pagine::tagliaAvanzo() {
-    const bool avanza = file_.lunghezza() % kPagina != 0;
-    if (avanza)
-        file_.tronca(std::uint64_t{nelFile_} * kPagina);
-    return avanza;
+    const std::uint64_t lunghezza = file_.lunghezza(), avanzo = lunghezza % kPagina;
+    if (avanzo == 0 || altreStazioni()) // another one may be writing just there
+        return false;
+    file_.tronca(lunghezza - avanzo);
+    return true;
 }
 
 std::vector<unsigned> Pagine::sospette() const {

@@ -61,7 +61,7 @@ public:
     void assolvi(unsigned utente);
     /// Whether another station has the archive open.
     [[nodiscard]] bool altreStazioni() const;
-    /// Cuts a half-written last page off the file. False where there is none.
+    /// Cuts a half-written last page off the file. False where there is none, or another station is there.
     bool tagliaAvanzo();
 
     /// Tells the other stations that a table is in use, for as long as the archive is open. Throws Guasto

@@ -222,7 +222,6 @@ private:
 } // namespace
 
 std::vector<std::string> ripara(Pagine& pagine) {
-    const bool tagliato = pagine.tagliaAvanzo();
     auto fatto = pagine.cambia([&] {
         std::vector<std::string> v;
         const auto voci = leggiCatalogo(pagine);
@@ -241,7 +240,7 @@ std::vector<std::string> ripara(Pagine& pagine) {
         return v;
     });
     pagine.registra();
-    if (tagliato)
+    if (pagine.tagliaAvanzo()) // at last: what can't be mended stays as it was
         fatto.insert(fatto.begin(), "Tagliata l'ultima pagina, scritta a metà.");
     for (const unsigned u : pagine.sospette()) {
         pagine.assolvi(u);
