@@ -1,10 +1,12 @@
 #include "tests/data/con_archivio.h"
+#include "tests/sostegno/disco_pieno.h"
 
 #include <fstream>
 
 namespace lumigrafo {
 namespace {
 
+using namespace std::chrono_literals;
 using namespace std::string_literals;
 
 TEST(Apertura, IlTipoSiVedeDaiPrimiByte) {
@@ -313,6 +315,37 @@ TEST_F(Dao, Transazioni) {
     EXPECT_EQ(archivio.coda(), "A1 A2 B1 C7");
     ws.CommitTrans();
     EXPECT_EQ(archivio.coda(), "A2 B1");
+}
+
+TEST_F(Dao, UnDiscoPienoDentroUnaTransazioneLaFinisceTutta) {
+    const auto altro = db->OpenRecordset("Select * from Lumigrafo Where Sigla = 'C'");
+    const std::string prima = archivio.leggi("SELECT Pezzi1 FROM Lumigrafo");
+    ws.BeginTrans();
+    altro->Edit();
+    altro->Fields()["Pezzi1"].Value(44);
+    rs->Edit();
+    rs->Fields()["Pezzi1"].Value(55);
+    {
+        const prova::DiscoPieno pieno(0);
+        const bool subito = guastoDi([&] { rs->Update(); }) != 0;
+        if (!subito) { // an Access archive is written at the transaction's end
+            altro->Update();
+            EXPECT_NE(guastoDi([&] { ws.CommitTrans(); }), 0);
+        }
+    }
+    for (Recordset* insieme : {rs.get(), altro.get()})
+        EXPECT_EQ(guastoDi([&] { insieme->Update(); }), 3020);
+    ws.Rollback();
+    EXPECT_EQ(archivio.leggi("SELECT Pezzi1 FROM Lumigrafo"), prima);
+}
+
+TEST_F(Dao, UnaConfermaSenzaInizioNonLiberaLaRiga) {
+    rs->Edit();
+    ws.CommitTrans();
+    EXPECT_EQ(
+        guastoDi([&] { Workspace(0ms).OpenDatabase(file.string())->Execute("Delete * from Lumigrafo"); }),
+        3218);
+    rs->Update();
 }
 
 TEST_F(Dao, UnaTransazioneAnnullataFinisceLeModificheCheTenevanoLeLoroRighe) {

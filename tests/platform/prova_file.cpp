@@ -1,11 +1,12 @@
 #include "platform/file.h"
 #include "platform/guasto.h"
 #include "tests/platform/ambiente_prova.h"
+#include "tests/sostegno/disco_pieno.h"
 #include "tests/sostegno/guasto_atteso.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 #include <string>
-#include <sys/resource.h>
 
 namespace lumigrafo {
 namespace {
@@ -54,11 +55,9 @@ TEST(SostituisciFile, fallendoLasciaIlVecchio) {
         fs::permissions(c.percorso(), fs::perms(caso.cartella));
         Figlio figlio([&] {
             prova::senzaPrivilegi();
-            if (caso.limite > 0) {
-                const rlimit limite{caso.limite, caso.limite};
-                ::setrlimit(RLIMIT_FSIZE, &limite);
-                ::signal(SIGXFSZ, SIG_IGN);
-            }
+            std::optional<prova::DiscoPieno> pieno;
+            if (caso.limite > 0)
+                pieno.emplace(caso.limite);
             return sostituisciFile(c / "a.ini", std::string(5000, 'x')) ? 1 : 0;
         });
         EXPECT_EQ(figlio.attendi(), 0);

@@ -1,10 +1,9 @@
 #include "tests/settings/banco_imposta.h"
+#include "tests/sostegno/disco_pieno.h"
 #include "tests/sostegno/guasto_atteso.h"
 
 #include <array>
-#include <csignal>
 #include <gmock/gmock.h>
-#include <sys/resource.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -201,14 +200,10 @@ TEST_F(ImpostaTest, FiltroCifra) {
 TEST_F(ImpostaTest, UnDiscoPienoAMetaLasciaLePrimeChiaviETace) {
     const std::string atteso = salvato(valori(&Caso::predefinito), 10);
     auto i = apri();
-    rlimit prima{};
-    ::getrlimit(RLIMIT_FSIZE, &prima);
-    const rlimit pieno{atteso.size(), prima.rlim_max};
-    const auto segnale = std::signal(SIGXFSZ, SIG_IGN);
-    ::setrlimit(RLIMIT_FSIZE, &pieno);
-    applica(*i);
-    ::setrlimit(RLIMIT_FSIZE, &prima);
-    std::signal(SIGXFSZ, segnale);
+    {
+        const DiscoPieno pieno(atteso.size());
+        applica(*i);
+    }
     EXPECT_EQ(file(), atteso);
     EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito") << "as after a save that went well";
     EXPECT_EQ(diario.back(), "fine 0");

@@ -5,9 +5,7 @@
 #include "data/jet/mappa.h"
 #include "data/verifica_archivio.h"
 #include "tests/data/jet/archivio_jet.h"
-
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/sostegno/disco_pieno.h"
 
 namespace lumigrafo::jet {
 namespace {
@@ -35,32 +33,12 @@ protected:
     }
 };
 
-/// No file of this process grows beyond that many bytes while it lives.
-class DiscoPieno {
-public:
-    explicit DiscoPieno(rlim_t byte) : vecchio_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &prima_);
-        const rlimit ora{byte, prima_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &ora);
-    }
-    ~DiscoPieno() {
-        ::setrlimit(RLIMIT_FSIZE, &prima_);
-        std::signal(SIGXFSZ, vecchio_);
-    }
-    DiscoPieno(const DiscoPieno&) = delete;
-    DiscoPieno& operator=(const DiscoPieno&) = delete;
-
-private:
-    rlimit prima_{};
-    void (*vecchio_)(int);
-};
-
 TEST_F(JetGuasti, DiscoPienoNelMezzoDiUnaScrittura) {
     const std::string prima = byte();
     Pagine pagine(file, {});
     aggiungi(pagine, "Prima", 61, 200);
     {
-        const DiscoPieno pieno(prima.size() + kPagina + 1000); // a page and a part of one go through
+        const prova::DiscoPieno pieno(prima.size() + kPagina + 1000); // a page and a part of one go through
         EXPECT_EQ(guastoDi([&] { pagine.registra(); }), guasti::kDiscoPieno);
     }
     const std::string dopo = byte();
