@@ -96,5 +96,12 @@ TEST(Disposizione, NextButtonTakesTheGridsFoot) {
     EXPECT_THAT(b.posti(0), ElementsAre("", "A 2", "A 9", "", "", ""));
 }
 
+TEST(Disposizione, TypeFourOpensTheServer) {
+    Banco b;
+    b.imposta("TipoLumigrafo", 4);
+    b.console().carica();
+    EXPECT_THAT(b.diario, testing::Contains("server"));
+}
+
 } // namespace
 } // namespace lumigrafo::prova

@@ -53,6 +53,11 @@ protected:
         testo << std::ifstream(impostazioni.file()).rdbuf();
         return testo.str();
     }
+    void diSolitoFinisce() {
+        EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito") << "as after a save that went well";
+        EXPECT_EQ(diario.back(), "fine 0");
+        EXPECT_TRUE(avvisi.mostrati.empty());
+    }
     /// Saves, as far as the tests let it.
     void applica(Imposta& i) {
         try {

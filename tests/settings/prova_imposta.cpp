@@ -4,6 +4,7 @@
 
 #include <array>
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 namespace lumigrafo::prova {
 namespace {
@@ -205,9 +206,24 @@ TEST_F(ImpostaTest, UnDiscoPienoAMetaLasciaLePrimeChiaviETace) {
         applica(*i);
     }
     EXPECT_EQ(file(), atteso);
-    EXPECT_EQ(diario.front(), "messaggio Salvataggio eseguito") << "as after a save that went well";
-    EXPECT_EQ(diario.back(), "fine 0");
-    EXPECT_TRUE(avvisi.mostrati.empty());
+    diSolitoFinisce();
+}
+
+TEST_F(ImpostaTest, UnaCartellaDiSolaLetturaTace) {
+    using std::filesystem::perms;
+    auto i = apri();
+    std::filesystem::permissions(cartella.percorso(), perms::owner_read | perms::owner_exec |
+                                                          perms::others_read | perms::others_exec);
+    constexpr uid_t kNessuno = 65534;
+    const uid_t chi = ::geteuid();
+    if (chi == 0) { // to whom no folder is read-only
+        ASSERT_EQ(::seteuid(kNessuno), 0);
+    }
+    applica(*i);
+    ASSERT_EQ(::seteuid(chi), 0);
+    std::filesystem::permissions(cartella.percorso(), perms::owner_all);
+    EXPECT_FALSE(std::filesystem::exists(impostazioni.file()));
+    diSolitoFinisce();
 }
 
 } // namespace
