@@ -177,28 +177,6 @@ char16_t minuscola(char16_t c) {
 
 } // namespace
 
-std::size_t byteDi(Tipo tipo) {
-    switch (tipo) {
-    case Tipo::Byte:
-        return 1;
-    case Tipo::Intero:
-        return 2;
-    case Tipo::Lungo:
-    case Tipo::Singolo:
-        return 4;
-    case Tipo::Valuta:
-    case Tipo::Doppio:
-    case Tipo::Data:
-        return 8;
-    case Tipo::Guid:
-        return 16;
-    case Tipo::Decimale:
-        return 17;
-    default:
-        return 0;
-    }
-}
-
 bool stessoNome(std::string_view a, std::string_view b) {
     if (a == b)
         return true;

@@ -28,7 +28,27 @@ enum class Tipo : std::uint8_t {
 };
 
 /// Bytes of a value of a type that has one length; 0 for the others.
-[[nodiscard]] std::size_t byteDi(Tipo tipo);
+[[nodiscard]] constexpr std::size_t byteDi(Tipo tipo) {
+    switch (tipo) {
+    case Tipo::Byte:
+        return 1;
+    case Tipo::Intero:
+        return 2;
+    case Tipo::Lungo:
+    case Tipo::Singolo:
+        return 4;
+    case Tipo::Valuta:
+    case Tipo::Doppio:
+    case Tipo::Data:
+        return 8;
+    case Tipo::Guid:
+        return 16;
+    case Tipo::Decimale:
+        return 17;
+    default:
+        return 0;
+    }
+}
 [[nodiscard]] inline bool valoreLungo(Tipo tipo) {
     return tipo == Tipo::Ole || tipo == Tipo::Memo;
 }

@@ -9,8 +9,6 @@ namespace lumigrafo::jet {
 
 namespace {
 
-constexpr std::size_t kTesta = 2; // the number of columns
-
 void accoda16(std::string& byte, std::size_t n) {
     byte += static_cast<char>(n & 0xFF);
     byte += static_cast<char>(n >> 8);
@@ -31,38 +29,14 @@ Riga::Riga(const Definizione& definizione, Vista byte)
     : definizione_(definizione), byte_(byte), colonne_(byte.u16(0)) {
     const std::size_t maschera = (colonne_ + 7) / 8;
     const std::size_t coda = maschera + (definizione.variabili > 0 ? 4 : 0);
-    if (byte.lunga() < kTesta + coda)
+    if (byte.lunga() < Riga::kTesta + coda)
         throw danno(byte.pagina(), "una riga è tronca");
     maschera_ = byte.lunga() - maschera;
     if (definizione.variabili == 0)
         return;
     variabili_ = byte.u16(maschera_ - 2);
-    if (byte.lunga() < kTesta + coda + 2 * std::size_t{variabili_})
+    if (byte.lunga() < Riga::kTesta + coda + 2 * std::size_t{variabili_})
         throw danno(byte.pagina(), "una riga è tronca");
-}
-
-bool Riga::nulla(const Colonna& c) const {
-    return c.numero >= colonne_ || !(byte_.u8(maschera_ + c.numero / 8) >> (c.numero % 8) & 1) ||
-           (c.variabile() && c.indiceVariabile >= variabili_);
-}
-
-Vista Riga::variabile(const Colonna& c) const {
-    const std::size_t tavola = maschera_ - 4; // offset of value 0; those of the next ones stand below it
-    const std::size_t inizio = byte_.u16(tavola - 2 * std::size_t{c.indiceVariabile});
-    const std::size_t fine = byte_.u16(tavola - 2 * std::size_t{c.indiceVariabile} - 2);
-    if (inizio > fine || inizio < kTesta || fine > tavola - 2 * std::size_t{variabili_})
-        throw danno(byte_.pagina(), "un campo è fuori dalla sua riga");
-    return byte_.brano(inizio, fine - inizio);
-}
-
-Vista Riga::valore(const Colonna& c) const {
-    const std::size_t minimo = byteDi(c.tipo);
-    if (c.fissa)
-        return byte_.brano(kTesta + c.postoFisso, minimo ? minimo : c.lunghezza);
-    const Vista v = variabile(c);
-    if (v.lunga() < minimo)
-        throw danno(byte_.pagina(), "un campo è tronco");
-    return v;
 }
 
 Campi Riga::campi() const {
@@ -82,7 +56,7 @@ Campi Riga::campi() const {
 std::string componiRiga(const Definizione& d, const Campi& campi) {
     std::string byte;
     accoda16(byte, d.colonneMassime);
-    byte.resize(kTesta + fineFissa(d));
+    byte.resize(Riga::kTesta + fineFissa(d));
     std::vector<const std::string*> variabili(d.variabili);
     std::string maschera((d.colonneMassime + 7u) / 8, '\0');
     for (std::size_t i = 0; i < d.colonne.size(); ++i) {
@@ -93,7 +67,7 @@ std::string componiRiga(const Definizione& d, const Campi& campi) {
         if (c.tipo == Tipo::Booleano)
             continue;
         if (c.fissa)
-            std::copy(campi[i]->begin(), campi[i]->end(), byte.begin() + kTesta + c.postoFisso);
+            std::copy(campi[i]->begin(), campi[i]->end(), byte.begin() + Riga::kTesta + c.postoFisso);
         else if (c.indiceVariabile < variabili.size())
             variabili[c.indiceVariabile] = &*campi[i];
         else
