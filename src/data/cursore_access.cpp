@@ -112,21 +112,59 @@ RigheTrovate perNumero(TabellaAccess& t, int numero, const std::vector<sqlite3_v
     return una;
 }
 
-void testo(sqlite3_context* contesto, const std::string& t) {
-    sqlite3_result_text(contesto, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
-}
+/// Takes a field's value for SQLite; RigaIntera is the other taker.
+struct PerSqlite {
+    sqlite3_context* contesto;
 
-void byte(sqlite3_context* contesto, const std::string& b) {
-    sqlite3_result_blob(contesto, b.data(), static_cast<int>(b.size()), SQLITE_TRANSIENT);
-}
+    void nullo() const {}
+    void intero(std::int64_t n) const { sqlite3_result_int64(contesto, n); }
+    void doppio(double n) const { sqlite3_result_double(contesto, n); }
+    void testo(std::string_view t) const {
+        sqlite3_result_text(contesto, t.data(), static_cast<int>(t.size()), SQLITE_TRANSIENT);
+    }
+    void byte(std::string_view b) const {
+        sqlite3_result_blob64(contesto, b.data(), b.size(), SQLITE_TRANSIENT);
+    }
+};
 
-void lungo(sqlite3_context* contesto, TabellaAccess& t, const Colonna& c, jet::Vista campo) {
+template <typename Presa>
+void daiLungo(Presa& presa, TabellaAccess& t, const Colonna& c, jet::Vista campo) {
     const std::string dati = leggiValoreLungo(t.tabella.pagine(), campo);
     if (c.tipo == Tipo::Ole)
-        byte(contesto, dati);
+        presa.byte(dati);
     else
-        testo(contesto, jet::leggiTesto({{reinterpret_cast<const std::uint8_t*>(dati.data()), dati.size()},
-                                         campo.pagina()}));
+        presa.testo(jet::leggiTesto(
+            {{reinterpret_cast<const std::uint8_t*>(dati.data()), dati.size()}, campo.pagina()}));
+}
+
+template <typename Presa>
+void dai(Presa& presa, const Colonna& c, const jet::Dato& dato) {
+    if (const auto* n = std::get_if<std::int64_t>(&dato))
+        presa.intero(*n);
+    else if (const auto* r = std::get_if<double>(&dato))
+        presa.doppio(*r);
+    else if (const auto* b = std::get_if<jet::Byte>(&dato))
+        presa.byte(b->byte);
+    else if (c.tipo == Tipo::Decimale)
+        presa.doppio(val(std::get<std::string>(dato)));
+    else
+        presa.testo(std::get<std::string>(dato));
+}
+
+template <typename Presa>
+void daiCampo(Presa& presa, const CursoreAccess& cursore, const Colonna& c) {
+    const bool nulla = cursore.riga->nulla(c);
+    if (c.tipo == Tipo::Booleano)
+        return presa.intero(nulla ? 0 : -1);
+    if (nulla)
+        return presa.nullo();
+    const jet::Vista campo = cursore.riga->valore(c);
+    if (jet::numeroIntero(c.tipo))
+        presa.intero(jet::leggiIntero(c.tipo, campo));
+    else if (valoreLungo(c.tipo))
+        daiLungo(presa, cursore.tabella(), c, campo);
+    else
+        dai(presa, c, leggiDato(c, campo));
 }
 
 } // namespace
@@ -174,33 +212,21 @@ RigheTrovate Percorso::cerca(TabellaAccess& t, int numero, const char* ordine,
         return righe;
     });
 }
+
 void CursoreAccess::vaiA(std::size_t nuovo) {
     posto = nuovo;
     if (!finito())
         riga.emplace(*definizione, (*righe)[posto].riga.byte);
 }
 
-void CursoreAccess::colonna(sqlite3_context* contesto, std::size_t i) const {
-    const Colonna& c = definizione->colonne.at(i);
-    const bool nulla = riga->nulla(c);
-    if (c.tipo == Tipo::Booleano)
-        return sqlite3_result_int(contesto, nulla ? 0 : -1);
-    if (nulla)
-        return;
-    const jet::Vista campo = riga->valore(c);
-    if (valoreLungo(c.tipo))
-        return lungo(contesto, tabella(), c, campo);
-    const jet::Dato dato = leggiDato(c, campo);
-    if (const auto* n = std::get_if<std::int64_t>(&dato))
-        sqlite3_result_int64(contesto, *n);
-    else if (const auto* r = std::get_if<double>(&dato))
-        sqlite3_result_double(contesto, *r);
-    else if (const auto* b = std::get_if<jet::Byte>(&dato))
-        byte(contesto, b->byte);
-    else if (c.tipo == Tipo::Decimale)
-        sqlite3_result_double(contesto, val(std::get<std::string>(dato)));
-    else
-        testo(contesto, std::get<std::string>(dato));
+void CursoreAccess::colonna(sqlite3_context* contesto, std::size_t i) {
+    PerSqlite presa{contesto};
+    if (i < definizione->colonne.size())
+        return daiCampo(presa, *this, definizione->colonne[i]);
+    intera.azzera();
+    for (const Colonna& c : definizione->colonne)
+        daiCampo(intera, *this, c);
+    presa.byte(intera.composta());
 }
 
 std::optional<std::string> byteDi(const Colonna& colonna, sqlite3_value* valore) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/jet/tabella.h"
+#include "data/riga_intera.h"
 
 #include <memory>
 #include <sqlite3.h>
@@ -39,12 +40,14 @@ struct CursoreAccess : sqlite3_vtab_cursor {
     [[nodiscard]] bool finito() const { return posto >= righe->size(); }
     /// Stands on that row, or behind the last one.
     void vaiA(std::size_t nuovo);
-    void colonna(sqlite3_context* contesto, std::size_t i) const;
+    /// Gives SQLite a field of the row; behind the last one the whole row.
+    void colonna(sqlite3_context* contesto, std::size_t i);
 
     std::shared_ptr<const RigheTrovate> righe = std::make_shared<RigheTrovate>();
     std::size_t posto = 0;
     const jet::Definizione* definizione = nullptr; ///< of the search's state
     std::optional<jet::Riga> riga;
+    RigaIntera intera;
 };
 
 /// The bytes of a column's field for a value of SQLite's. Throws Guasto as jet::scriviDato.

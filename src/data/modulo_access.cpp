@@ -78,7 +78,7 @@ std::string schema(const jet::Definizione& d) {
     for (const Colonna& c : d.colonne)
         sql += (sql.empty() ? "CREATE TABLE x(" : ", ") + lessico::traVirgolette(c.nome) + ' ' +
                dichiarazione(c);
-    return sql + ')';
+    return sql + ", " + lessico::traVirgolette(RigaIntera::kColonna) + " BLOB HIDDEN)";
 }
 
 TabellaAccess& di(sqlite3_vtab* t) {

@@ -3,6 +3,7 @@
 #include "data/errori_dao.h"
 #include "data/lessico.h"
 
+#include <algorithm>
 #include <sqlite3.h>
 #include <utility>
 
@@ -26,10 +27,21 @@ std::string conChiave(const Selezione& s) {
     return "SELECT " + s.voci + ", _rowid_ " + s.da;
 }
 
-/// The rows of a view have none.
-bool haChiave(sqlite3* db, const std::string& tabella) {
-    return sqlite3_table_column_metadata(db, nullptr, tabella.c_str(), "_rowid_", nullptr, nullptr, nullptr,
+bool haColonna(sqlite3* db, const std::string& tabella, const char* colonna) {
+    return sqlite3_table_column_metadata(db, nullptr, tabella.c_str(), colonna, nullptr, nullptr, nullptr,
                                          nullptr, nullptr) == SQLITE_OK;
+}
+
+/// The statement that asks for whole rows; empty where there is none. A number behind "Order by" stands for
+/// the column at that place of the list, which would be another list.
+std::string conRigheIntere(sqlite3* db, const Selezione& s) {
+    const auto pezzi = lessico::spezza(s.resto);
+    const bool numeri = std::any_of(pezzi.begin(), pezzi.end(), [](const lessico::Pezzo& p) {
+        return p.genere == lessico::Genere::Numero;
+    });
+    if (!s.colonne.empty() || numeri || !haColonna(db, s.tabella, RigaIntera::kColonna))
+        return {};
+    return "SELECT " + lessico::traVirgolette(RigaIntera::kColonna) + ", _rowid_ " + s.da + s.resto;
 }
 
 } // namespace
@@ -38,9 +50,12 @@ Recordset::Recordset(std::shared_ptr<Sessione> sessione, const std::string& sorg
     : sessione_(std::move(sessione)) {
     const std::string sql = sessione_->dialetto().sorgente(sorgente);
     selezione_ = selezioneSemplice(sql);
-    if (selezione_ && !haChiave(sessione_->motore().connessione(), selezione_->tabella))
+    sqlite3* db = sessione_->motore().connessione();
+    if (selezione_ && !haColonna(db, selezione_->tabella, "_rowid_")) // the rows of a view have no key
         selezione_.reset();
     sql_ = selezione_ ? conChiave(*selezione_) + selezione_->resto : sql;
+    if (selezione_)
+        intere_ = conRigheIntere(db, *selezione_);
     carica();
     sessione_->iscrivi(*this);
 }
@@ -82,16 +97,18 @@ void Recordset::definisciCampi(sqlite3_stmt* stmt) {
 }
 
 void Recordset::carica() {
-    Istruzione istruzione = sessione_->prepara(sql_, Operazione::Lettura);
+    const Istruzione colonne = sessione_->prepara(sql_, Operazione::Lettura);
+    Istruzione istruzione = sessione_->prepara(intere_.empty() ? sql_ : intere_, Operazione::Lettura);
     const Lettura lettura(sessione_->motore());
     // The first step may find that another program changed the table; only then are the columns known.
     bool riga = istruzione.passo();
     if (campi_.Count() == 0)
-        definisciCampi(istruzione.stmt());
+        definisciCampi(colonne.stmt());
     Righe nuove = sessione_->prestaRighe();
     nuove.azzera(campi_.Count(), selezione_.has_value());
+    const auto accoda = intere_.empty() ? &Righe::accoda : &Righe::accodaIntera;
     for (; riga; riga = istruzione.passo())
-        nuove.accoda(istruzione.stmt());
+        (nuove.*accoda)(istruzione.stmt());
     std::swap(righe_, nuove);
     sessione_->rendiRighe(std::move(nuove));
     versione_ = lettura.versione;

@@ -100,7 +100,8 @@ private:
     void lascia() noexcept;
 
     std::shared_ptr<Sessione> sessione_;
-    std::string sql_; ///< with the row's key behind the columns where rows can be changed
+    std::string sql_;    ///< with the row's key behind the columns where rows can be changed
+    std::string intere_; ///< the same with each row in one piece; empty where the table doesn't give it so
     std::optional<Selezione> selezione_;
     lumigrafo::Fields campi_;
     Righe righe_;

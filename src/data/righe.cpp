@@ -19,18 +19,18 @@ void Righe::leggi(Cella& c, sqlite3_value* v) {
     switch (sqlite3_value_type(v)) {
     case SQLITE_INTEGER:
         c.intero = sqlite3_value_int64(v);
-        c.tipo = Tipo::Intero;
+        c.tipo = Cella::Tipo::Intero;
         break;
     case SQLITE_FLOAT:
         c.doppio = sqlite3_value_double(v);
-        c.tipo = Tipo::Doppio;
+        c.tipo = Cella::Tipo::Doppio;
         break;
     case SQLITE_NULL:
-        c.tipo = Tipo::Nullo;
+        c.tipo = Cella::Tipo::Nullo;
         break;
     default: { // a text, or bytes taken as such
         const auto* t = static_cast<const char*>(sqlite3_value_blob(v));
-        c.tipo = Tipo::Testo;
+        c.tipo = Cella::Tipo::Testo;
         c.inizio = testi_.size();
         c.lunghezza = static_cast<std::uint32_t>(sqlite3_value_bytes(v));
         testi_.append(t ? t : "", c.lunghezza);
@@ -38,11 +38,23 @@ void Righe::leggi(Cella& c, sqlite3_value* v) {
     }
 }
 
-void Righe::accoda(sqlite3_stmt* stmt) {
+std::span<Cella> Righe::nuovaRiga() {
     const std::size_t prima = celle_.size();
     celle_.resize(prima + colonne_);
+    return std::span(celle_).subspan(prima);
+}
+
+void Righe::accoda(sqlite3_stmt* stmt) {
+    (void)nuovaRiga();
     chiavi_.push_back(conChiave_ ? sqlite3_column_int64(stmt, static_cast<int>(colonne_)) : 0);
     sostituisci(chiavi_.size() - 1, stmt);
+}
+
+void Righe::accodaIntera(sqlite3_stmt* stmt) {
+    const auto* byte = static_cast<const char*>(sqlite3_column_blob(stmt, 0));
+    const auto lunga = static_cast<std::size_t>(sqlite3_column_bytes(stmt, 0));
+    RigaIntera::scomponi({byte, lunga}, nuovaRiga(), testi_);
+    chiavi_.push_back(sqlite3_column_int64(stmt, 1));
 }
 
 void Righe::sostituisci(std::size_t riga, sqlite3_stmt* stmt) {

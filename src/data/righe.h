@@ -1,10 +1,12 @@
 #pragma once
 
+#include "data/riga_intera.h"
 #include "data/valore.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,8 @@ public:
     void azzera(std::size_t colonne, bool conChiave);
     /// Appends the row that the statement stands on.
     void accoda(sqlite3_stmt* stmt);
+    /// The same from a statement that gives each row as a RigaIntera, and behind it the key.
+    void accodaIntera(sqlite3_stmt* stmt);
     /// Puts the row that the statement stands on in the place of an older reading.
     void sostituisci(std::size_t riga, sqlite3_stmt* stmt);
     void elimina(std::size_t riga);
@@ -37,18 +41,9 @@ public:
     [[nodiscard]] std::vector<Valore> valori(std::size_t riga) const;
 
 private:
-    enum class Tipo : std::uint8_t { Nullo, Intero, Doppio, Testo };
-    struct Cella {
-        union {
-            std::int64_t intero;
-            double doppio;
-            std::size_t inizio; ///< of a text, in `testi_`
-        };
-        std::uint32_t lunghezza;
-        Tipo tipo;
-    };
     static constexpr std::int64_t kEliminata = INT64_MIN;
 
+    [[nodiscard]] std::span<Cella> nuovaRiga();
     void leggi(Cella& cella, sqlite3_value* valore);
 
     std::size_t colonne_ = 0;
@@ -63,13 +58,13 @@ private:
 inline Valore Righe::valore(std::size_t riga, std::size_t colonna) const {
     const Cella& c = celle_[riga * colonne_ + colonna];
     switch (c.tipo) {
-    case Tipo::Intero:
+    case Cella::Tipo::Intero:
         return c.intero;
-    case Tipo::Doppio:
+    case Cella::Tipo::Doppio:
         return c.doppio;
-    case Tipo::Testo:
+    case Cella::Tipo::Testo:
         return std::string_view(testi_).substr(c.inizio, c.lunghezza);
-    case Tipo::Nullo:
+    case Cella::Tipo::Nullo:
         break;
     }
     return {};

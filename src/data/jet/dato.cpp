@@ -209,13 +209,9 @@ std::string binario(const Colonna& c, const Dato& dato) {
 } // namespace
 
 Dato leggiDato(const Colonna& c, Vista v) {
+    if (numeroIntero(c.tipo))
+        return leggiIntero(c.tipo, v);
     switch (c.tipo) {
-    case Tipo::Byte:
-        return std::int64_t{v.u8(0)};
-    case Tipo::Intero:
-        return std::int64_t{static_cast<std::int16_t>(v.u16(0))};
-    case Tipo::Lungo:
-        return std::int64_t{static_cast<std::int32_t>(v.u32(0))};
     case Tipo::Valuta:
         return static_cast<double>(static_cast<std::int64_t>(v.u64(0))) / kUnitaValuta;
     case Tipo::Singolo:

@@ -18,6 +18,18 @@ struct Byte {
 };
 using Dato = std::variant<std::monostate, std::int64_t, double, std::string, Byte>;
 
+/// Whether values of that type are whole numbers.
+[[nodiscard]] constexpr bool numeroIntero(Tipo tipo) {
+    return tipo == Tipo::Byte || tipo == Tipo::Intero || tipo == Tipo::Lungo;
+}
+/// The value of such a field. Throws Guasto 3049.
+[[nodiscard]] inline std::int64_t leggiIntero(Tipo tipo, Vista byte) {
+    if (tipo == Tipo::Byte)
+        return byte.u8(0);
+    return tipo == Tipo::Intero ? static_cast<std::int16_t>(byte.u16(0))
+                                : static_cast<std::int32_t>(byte.u32(0));
+}
+
 /// The value behind a field's bytes, for all types but long values and Yes/No. Throws Guasto 3049.
 [[nodiscard]] Dato leggiDato(const Colonna& colonna, Vista byte);
 

@@ -125,6 +125,23 @@ std::string mdbExport(const std::string& file, const std::string& tabella) {
     return uscita;
 }
 
+std::vector<std::vector<Valore>> valori(Database& db, const std::string& sorgente) {
+    std::vector<std::vector<Valore>> righe;
+    for (const auto rs = db.OpenRecordset(sorgente); !rs->Eof(); rs->MoveNext()) {
+        righe.emplace_back();
+        for (const Field& campo : rs->Fields().tutti())
+            righe.back().push_back(campo.Value());
+    }
+    return righe;
+}
+
+std::string perNome(Database& db, const std::string& tabella) {
+    std::string sql;
+    for (const Field& campo : db.OpenRecordset(tabella)->Fields().tutti())
+        sql += (sql.empty() ? "Select [" : ", [") + campo.Name() + ']';
+    return sql + " from [" + tabella + ']';
+}
+
 std::vector<std::string> righeOrdinate(const std::string& testo) {
     std::istringstream righe(testo);
     std::vector<std::string> v;

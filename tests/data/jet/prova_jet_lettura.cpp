@@ -189,9 +189,16 @@ TEST(JetArchiviAltrui, StesseRigheDiMdbExportEIndiciInOrdine) {
             continue;
         Pagine pagine(voce.path(), {.sola_lettura = true});
         EXPECT_EQ(verifica(pagine).discordanze, std::vector<std::string>()) << voce.path();
+        const prova::CartellaTemporanea copie;
+        const auto copia = copie.percorso() / "archivio.mdb";
+        std::filesystem::copy_file(voce.path(), copia);
+        Workspace ws;
+        const auto db = ws.OpenDatabase(copia.string());
         for (const VoceCatalogo& tabella : leggiCatalogo(pagine)) {
             if (tabella.sistema)
                 continue;
+            EXPECT_EQ(prova::valori(*db, tabella.nome), prova::valori(*db, prova::perNome(*db, tabella.nome)))
+                << voce.path() << ' ' << tabella.nome;
             const std::string altrui = prova::mdbExport(voce.path().string(), tabella.nome);
             EXPECT_EQ(prova::righeOrdinate(prova::esporta(pagine, tabella.nome)),
                       prova::righeOrdinate(altrui))

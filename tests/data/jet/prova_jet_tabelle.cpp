@@ -7,6 +7,7 @@
 #include "data/schema.h"
 #include "platform/file_condiviso.h"
 #include "tests/data/jet/archivio_jet.h"
+#include "tests/data/jet/esporta.h"
 
 #include <set>
 #include <utility>
@@ -54,6 +55,43 @@ TEST_F(JetTabelle, PredefinitiECampiRichiesti) {
     EXPECT_EQ(valore("Si").aIntero16(), -1);
     EXPECT_EQ(valore("N").aIntero16(), -15);
     EXPECT_TRUE(valore("Calcolo").nullo() && valore("Troppo").nullo());
+}
+
+TEST_F(JetTabelle, UnaRigaInteraValeComeICampiUnoPerUno) {
+    cambia([](Pagine& pagine) {
+        creaTabella(pagine, {"Tipi",
+                             {{"Breve", Tipo::Testo, 20},
+                              {"N", Tipo::Lungo},
+                              {"B", Tipo::Byte},
+                              {"I", Tipo::Intero},
+                              {"Prezzo", Tipo::Valuta},
+                              {"D", Tipo::Doppio},
+                              {"Si", Tipo::Booleano},
+                              {"Lungo", Tipo::Testo, 100}},
+                             {}});
+    });
+    const auto db = ws.OpenDatabase(file.string());
+    db->Execute("Insert into Tipi values ('', 3, 255, -32768, -0.5, 1e300, True, 'prima riga')");
+    db->Execute("Insert into Tipi (N, Lungo) values (1, 'perché no?')");
+    db->Execute("Insert into Tipi values ('b', 2, 0, 32767, 12, -1.25, False, Null)");
+    const std::string nomi = prova::perNome(*db, "Tipi");
+    // By a column whose keys SQLite doesn't take as they are; by the place in the list; with a condition.
+    for (const char* resto : {"", " Order by D", " Order by 2", " Order by Lungo Desc, N",
+                              " Where N > 1 Order by N", " Where Breve = 'B'"})
+        EXPECT_EQ(prova::valori(*db, std::string("Select * from Tipi") + resto),
+                  prova::valori(*db, nomi + resto))
+            << resto;
+    EXPECT_EQ(prova::valori(*db, "Select * from Tipi Order by 2")[0],
+              (std::vector<Valore>{{}, 1, {}, {}, {}, {}, false, "perché no?"}));
+    EXPECT_EQ(prova::valori(*db, "Select Lungo, N from Tipi")[0], (std::vector<Valore>{"prima riga", 3}));
+    const auto rs = db->OpenRecordset("Select * from Tipi Order by N");
+    rs->FindFirst("N = 2"); // a row read anew among whole ones
+    rs->Edit();
+    rs->Fields()["Lungo"].Value("nuovo");
+    rs->Update();
+    EXPECT_EQ(rs->Fields()["Lungo"].Value(), "nuovo");
+    rs->MoveNext();
+    EXPECT_EQ(rs->Fields()["Lungo"].Value(), "prima riga");
 }
 
 TEST_F(JetTabelle, QuelleInservibiliNonFermanoLeAltre) {
