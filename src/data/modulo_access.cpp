@@ -78,7 +78,9 @@ std::string schema(const jet::Definizione& d) {
     for (const Colonna& c : d.colonne)
         sql += (sql.empty() ? "CREATE TABLE x(" : ", ") + lessico::traVirgolette(c.nome) + ' ' +
                dichiarazione(c);
-    return sql + ", " + lessico::traVirgolette(RigaIntera::kColonna) + " BLOB HIDDEN)";
+    if (!d.cerca(RigaIntera::kColonna)) // Access takes no such name, a file may have it all the same
+        sql += ", " + lessico::traVirgolette(RigaIntera::kColonna) + ' ' + RigaIntera::kTipo + " HIDDEN";
+    return sql + ')';
 }
 
 TabellaAccess& di(sqlite3_vtab* t) {

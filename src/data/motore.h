@@ -29,6 +29,9 @@ public:
         return std::nullopt;
     }
 
+    /// Whether the rows of a table are to be had in one piece as well, from the column RigaIntera::kColonna.
+    [[nodiscard]] virtual bool righeIntere(const std::string& /*tabella*/) const { return false; }
+
     /// Holds one state of the archive for the statements up to `fineLettura`. Returns its version: a number
     /// that changes when another station changes the archive. Throws Guasto 3187 where the archive stays
     /// locked.

@@ -2,9 +2,11 @@
 
 #include "data/errori_dao.h"
 #include "data/jet/tabella.h"
+#include "data/riga_intera.h"
 #include "platform/computer.h"
 
 #include <sqlite3.h>
+#include <string_view>
 
 namespace lumigrafo {
 
@@ -49,6 +51,13 @@ MotoreAccess::MotoreAccess(const std::filesystem::path& file, std::chrono::milli
 
 MotoreAccess::~MotoreAccess() {
     sqlite3_close_v2(db_);
+}
+
+bool MotoreAccess::righeIntere(const std::string& tabella) const {
+    const char* tipo = nullptr;
+    return sqlite3_table_column_metadata(db_, nullptr, tabella.c_str(), RigaIntera::kColonna, &tipo, nullptr,
+                                         nullptr, nullptr, nullptr) == SQLITE_OK &&
+           tipo && std::string_view(tipo) == RigaIntera::kTipo;
 }
 
 void MotoreAccess::bloccaRiga(const std::string& tabella, std::int64_t riga) {

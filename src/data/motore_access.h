@@ -20,6 +20,7 @@ public:
     [[nodiscard]] std::optional<Guasto> inservibile(const std::string& tabella) const override {
         return tabelle_.inservibile(tabella);
     }
+    [[nodiscard]] bool righeIntere(const std::string& tabella) const override;
     std::int64_t iniziaLettura() override { return pagine_.aggiorna(); }
     void fineLettura() noexcept override {}
     [[nodiscard]] bool siRipete() const override { return true; }

@@ -27,19 +27,20 @@ std::string conChiave(const Selezione& s) {
     return "SELECT " + s.voci + ", _rowid_ " + s.da;
 }
 
-bool haColonna(sqlite3* db, const std::string& tabella, const char* colonna) {
-    return sqlite3_table_column_metadata(db, nullptr, tabella.c_str(), colonna, nullptr, nullptr, nullptr,
-                                         nullptr, nullptr) == SQLITE_OK;
+/// The rows of a view have none.
+bool haChiave(const Motore& motore, const std::string& tabella) {
+    return sqlite3_table_column_metadata(motore.connessione(), nullptr, tabella.c_str(), "_rowid_", nullptr,
+                                         nullptr, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
 /// The statement that asks for whole rows; empty where there is none. A number behind "Order by" stands for
 /// the column at that place of the list, which would be another list.
-std::string conRigheIntere(sqlite3* db, const Selezione& s) {
+std::string conRigheIntere(const Motore& motore, const Selezione& s) {
     const auto pezzi = lessico::spezza(s.resto);
     const bool numeri = std::any_of(pezzi.begin(), pezzi.end(), [](const lessico::Pezzo& p) {
         return p.genere == lessico::Genere::Numero;
     });
-    if (!s.colonne.empty() || numeri || !haColonna(db, s.tabella, RigaIntera::kColonna))
+    if (!s.colonne.empty() || numeri || !motore.righeIntere(s.tabella))
         return {};
     return "SELECT " + lessico::traVirgolette(RigaIntera::kColonna) + ", _rowid_ " + s.da + s.resto;
 }
@@ -50,12 +51,11 @@ Recordset::Recordset(std::shared_ptr<Sessione> sessione, const std::string& sorg
     : sessione_(std::move(sessione)) {
     const std::string sql = sessione_->dialetto().sorgente(sorgente);
     selezione_ = selezioneSemplice(sql);
-    sqlite3* db = sessione_->motore().connessione();
-    if (selezione_ && !haColonna(db, selezione_->tabella, "_rowid_")) // the rows of a view have no key
+    if (selezione_ && !haChiave(sessione_->motore(), selezione_->tabella))
         selezione_.reset();
     sql_ = selezione_ ? conChiave(*selezione_) + selezione_->resto : sql;
     if (selezione_)
-        intere_ = conRigheIntere(db, *selezione_);
+        intere_ = conRigheIntere(sessione_->motore(), *selezione_);
     carica();
     sessione_->iscrivi(*this);
 }

@@ -25,8 +25,10 @@ struct Cella {
 /// table that offers its rows in one piece spares them to whoever reads a long queue.
 class RigaIntera {
 public:
-    /// The hidden column that such a table has behind its own ones. Access takes no name with this mark.
+    /// The hidden column that such a table has behind its own ones, and its type, which tells it from a
+    /// column that another program gave that name.
     static constexpr const char* kColonna = "riga!";
+    static constexpr const char* kTipo = "RIGA";
 
     /// Begins a row anew, with the memory kept.
     void azzera();

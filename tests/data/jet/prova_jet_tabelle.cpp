@@ -8,6 +8,7 @@
 #include "platform/file_condiviso.h"
 #include "tests/data/jet/archivio_jet.h"
 #include "tests/data/jet/esporta.h"
+#include "tests/sostegno/archivio_prova.h"
 
 #include <set>
 #include <utility>
@@ -92,6 +93,20 @@ TEST_F(JetTabelle, UnaRigaInteraValeComeICampiUnoPerUno) {
     EXPECT_EQ(rs->Fields()["Lungo"].Value(), "nuovo");
     rs->MoveNext();
     EXPECT_EQ(rs->Fields()["Lungo"].Value(), "prima riga");
+}
+
+TEST_F(JetTabelle, UnaColonnaPuoChiamarsiComeQuellaNascosta) {
+    cambia([](Pagine& pagine) {
+        creaTabella(pagine, {"Tipi", {{"N", Tipo::Lungo}, {"Riga!", Tipo::Lungo}}, {}});
+    });
+    const auto sqlite = cartella.percorso() / "altro.mdb";
+    creaArchivio(sqlite, Formato::Sqlite);
+    prova::ArchivioProva(sqlite).esegui("CREATE TABLE Tipi (N INTEGER, \"riga!\" INTEGER)");
+    for (const auto& archivio : {file, sqlite}) {
+        const auto db = ws.OpenDatabase(archivio.string());
+        db->Execute("Insert into Tipi values (1, 2)");
+        EXPECT_EQ(prova::valori(*db, "Tipi"), (std::vector<std::vector<Valore>>{{1, 2}})) << archivio;
+    }
 }
 
 TEST_F(JetTabelle, QuelleInservibiliNonFermanoLeAltre) {
