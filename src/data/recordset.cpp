@@ -48,7 +48,7 @@ std::string conRigheIntere(const Motore& motore, const Selezione& s) {
 } // namespace
 
 Recordset::Recordset(std::shared_ptr<Sessione> sessione, const std::string& sorgente)
-    : sessione_(std::move(sessione)) {
+    : sessione_(std::move(sessione)), sorgente_(sorgente) {
     const std::string sql = sessione_->dialetto().sorgente(sorgente);
     selezione_ = selezioneSemplice(sql);
     if (selezione_ && !haChiave(sessione_->motore(), selezione_->tabella))
@@ -97,7 +97,7 @@ void Recordset::definisciCampi(sqlite3_stmt* stmt) {
 }
 
 void Recordset::carica() {
-    const Istruzione colonne = sessione_->prepara(sql_, Operazione::Lettura);
+    const Istruzione colonne = sessione_->prepara(sql_, Operazione::Lettura, sorgente_);
     Istruzione istruzione = sessione_->prepara(intere_.empty() ? sql_ : intere_, Operazione::Lettura);
     const Lettura lettura(sessione_->motore());
     // The first step may find that another program changed the table; only then are the columns known.

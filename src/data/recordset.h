@@ -100,6 +100,7 @@ private:
     void lascia() noexcept;
 
     std::shared_ptr<Sessione> sessione_;
+    const std::string sorgente_;
     std::string sql_;    ///< with the row's key behind the columns where rows can be changed
     std::string intere_; ///< the same with each row in one piece; empty where the table doesn't give it so
     std::optional<Selezione> selezione_;

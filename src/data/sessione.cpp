@@ -103,13 +103,14 @@ Motore& Sessione::motore() const {
     return *motore_;
 }
 
-std::shared_ptr<sqlite3_stmt> Sessione::compila(const std::string& sql, Operazione operazione) const {
+std::shared_ptr<sqlite3_stmt> Sessione::compila(const std::string& sql, Operazione operazione,
+                                                std::string_view comeScritta) const {
     sqlite3* db = motore().connessione();
     sqlite3_stmt* stmt = nullptr;
     const char* resto = nullptr;
     if (sqlite3_prepare_v3(db, sql.data(), static_cast<int>(sql.size()), SQLITE_PREPARE_PERSISTENT, &stmt,
                            &resto) != SQLITE_OK) {
-        const Guasto guasto = erroreSqlite(db, operazione, sql);
+        const Guasto guasto = erroreSqlite(db, operazione, comeScritta.empty() ? sql : comeScritta);
         const auto tabella = tabellaMancante(db);
         throw(tabella ? motore().inservibile(*tabella) : std::nullopt).value_or(guasto);
     }
@@ -123,13 +124,13 @@ std::shared_ptr<sqlite3_stmt> Sessione::compila(const std::string& sql, Operazio
     return pronta;
 }
 
-Istruzione Sessione::prepara(const std::string& sql, Operazione operazione) {
+Istruzione Sessione::prepara(const std::string& sql, Operazione operazione, std::string_view comeScritta) {
     const auto nota =
         std::find_if(pronte_.begin(), pronte_.end(), [&](const Pronta& p) { return p.first == sql; });
     if (nota != pronte_.end()) {
         std::rotate(pronte_.begin(), nota, nota + 1);
     } else {
-        auto nuova = compila(sql, operazione);
+        auto nuova = compila(sql, operazione, comeScritta);
         if (pronte_.size() == kPronte)
             pronte_.pop_back(); // whoever still uses it keeps it alive
         pronte_.insert(pronte_.begin(), {sql, std::move(nuova)});
@@ -143,7 +144,7 @@ std::int32_t Sessione::esegui(std::string_view sql) {
     const auto pezzi = lessico::spezza(tradotta);
     const bool inserimento = lessico::Lettore(pezzi).e(0, "INSERT");
     const auto operazione = inserimento ? Operazione::Inserimento : Operazione::Aggiornamento;
-    if (sqlite3_column_count(prepara(tradotta, operazione).stmt()) > 0)
+    if (sqlite3_column_count(prepara(tradotta, operazione, sql).stmt()) > 0)
         throw erroreDao(dao::kQueryDiSelezione);
     const int prima = sqlite3_total_changes(db);
     ripetendo([&] { prepara(tradotta, operazione).passo(); });

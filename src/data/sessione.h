@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -56,8 +57,10 @@ public:
     [[nodiscard]] Motore& motore() const;
     [[nodiscard]] const Dialetto& dialetto() const { return dialetto_; }
 
-    /// A statement in SQLite's own dialect. The latest ones are kept prepared.
-    [[nodiscard]] Istruzione prepara(const std::string& sql, Operazione operazione);
+    /// A statement in SQLite's own dialect. The latest ones are kept prepared. A failure shows it as
+    /// `comeScritta`, where that is given.
+    [[nodiscard]] Istruzione prepara(const std::string& sql, Operazione operazione,
+                                     std::string_view comeScritta = {});
     /// Runs a change. Where its failure has cost the transaction, all of that is undone here too.
     void cambia(const std::function<void()>& cambio);
     /// The same, again and again for the whole wait where the engine says so and another station was in
@@ -94,7 +97,8 @@ private:
 
     void sblocca();
     void perdiBlocchi();
-    [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione) const;
+    [[nodiscard]] std::shared_ptr<sqlite3_stmt> compila(const std::string& sql, Operazione operazione,
+                                                        std::string_view comeScritta) const;
 
     std::chrono::milliseconds attesa_;
     std::unique_ptr<Motore> motore_;

@@ -70,6 +70,12 @@ TEST_F(Dao, IstruzioniErrate) {
     EXPECT_EQ(archivio.coda(), "A1 A2 B1 C7");
     const auto manca = prova::fallimento([&] { db->Execute("Delete * from Manca"); });
     EXPECT_NE(manca.second.find("'Manca'"), std::string::npos);
+    // Shown as it was written, not as it was put right for SQLite.
+    const char *toglie = "Delete * from Lumigrafo Where",
+               *legge = "Select Numero from Lumigrafo Where Sigla =";
+    EXPECT_NE(prova::fallimento([&] { db->Execute(toglie); }).second.find(toglie), std::string::npos);
+    const auto lettura = prova::fallimento([&] { (void)db->OpenRecordset(legge); });
+    EXPECT_NE(lettura.second.find(legge), std::string::npos) << lettura.second;
 }
 
 TEST_F(Dao, Movimento) {
