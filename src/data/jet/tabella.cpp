@@ -50,12 +50,12 @@ const Definizione& Tabella::definizione() {
     }
     if (stessa)
         return definizione_;
+    lette_.clear(); // what doesn't fit is read, and refused, each time anew
     Definizione nuova = leggiDefinizione(pagine_, numero_);
     if (!stesseColonne(nuova.colonne, definizione_.colonne))
         throw Guasto(dao::kCambiatoDaAltri, "Un'altra stazione ha cambiato le colonne di una tabella: "
                                             "l'archivio va riaperto.");
     definizione_ = std::move(nuova);
-    lette_.clear();
     for (const std::uint32_t n : definizione_.catena)
         lette_.push_back(pagine_.leggi(n));
     return definizione_;

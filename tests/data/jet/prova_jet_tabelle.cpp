@@ -10,7 +10,9 @@
 #include "tests/data/jet/esporta.h"
 #include "tests/sostegno/archivio_prova.h"
 
+#include <algorithm>
 #include <set>
+#include <string_view>
 #include <utility>
 
 namespace lumigrafo::jet {
@@ -140,6 +142,27 @@ TEST_F(JetTabelle, QuelleInservibiliNonFermanoLeAltre) {
     EXPECT_TRUE(guasta.starts_with("3049 La tabella 'Numero' ")) << guasta;
     EXPECT_EQ(db->Execute("Insert into Categorie (Codice) values (4)"), 1);
     EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Nessuna"); }), dao::kTabellaMancante);
+}
+
+TEST_F(JetTabelle, ConColonneCambiateDaAltriNonSiUsanoPiu) {
+    const auto db = ws.OpenDatabase(file.string());
+    const auto rs = db->OpenRecordset("Numero");
+    {
+        Pagine altra(file, {});
+        const std::uint32_t numero = definizioneDi(altra, "Numero");
+        altra.cambia([&] {
+            auto& byte = altra.modifica(numero).byte;
+            const std::string_view nome("N\0u\0m\0e\0r\0o\0", 12);
+            *std::search(byte.begin(), byte.end(), nome.begin(), nome.end()) = 'M';
+            return true;
+        });
+        altra.registra();
+    }
+    for (int volta = 0; volta < 2; ++volta) { // each time, not the first time alone
+        EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Numero"); }), dao::kCambiatoDaAltri);
+        EXPECT_EQ(guastoDi([&] { db->Execute("Update Numero set Numero = 5"); }), dao::kCambiatoDaAltri);
+    }
+    EXPECT_EQ(ws.OpenDatabase(file.string())->OpenRecordset("Numero")->Fields()["Mumero"].Value(), 0);
 }
 
 TEST_F(JetTabelle, StannoAperteSottoGliOcchiDelleAltreStazioni) {
