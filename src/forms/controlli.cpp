@@ -1,6 +1,7 @@
 #include "forms/controlli.h"
 
 #include "platform/guasto.h"
+#include "platform/utf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,6 +21,14 @@ int valoreIniziale(const Descrizione& d) {
     default:
         return 0;
     }
+}
+
+/// As much of a text as its box holds.
+std::string contenuto(std::string testo, int massima) {
+    std::size_t fine = 0;
+    for (int i = 0; i < massima && fine < testo.size(); ++i)
+        (void)prossimoCarattere(testo, fine);
+    return massima > 0 ? testo.substr(0, fine) : testo;
 }
 
 } // namespace
@@ -52,7 +61,7 @@ void Controllo::cambia(T& campo, T nuovo, Aspetto aspetto) {
 }
 
 void Controllo::Caption(std::string testo) {
-    cambia(caption_, std::move(testo), Aspetto::Testo);
+    cambia(caption_, contenuto(std::move(testo), disegno_.lunghezzaMassima), Aspetto::Testo);
 }
 void Controllo::Posto(const Rettangolo& rett) {
     cambia(rett_, rett, Aspetto::Geometria);

@@ -119,7 +119,9 @@ TEST_F(ImpostaTest, ValoriCheIlCaricamentoNonTiene) {
     imposta("VolumeVocale", 300);
     imposta("Posiziona", -1);
     imposta("Vocale", "true");
+    imposta("NumeroMassimoRighe", 1000);
     auto i = apri();
+    EXPECT_EQ(i->controlli()("txtNumeroMassimoRighe").Caption(), "100") << "no more than its box shows";
     for (const auto& [nome, preso] : {std::pair("sldVolume", 100), {"chkPosiziona", 1}, {"chkVocale", 1}})
         EXPECT_EQ(i->controlli()(nome).Value(), preso) << nome;
 }
