@@ -121,6 +121,11 @@ void Controllo::AddItem(std::string voce) {
     voci_.push_back(std::move(voce));
     annuncia(Aspetto::Voci);
 }
+void Controllo::Voci(std::vector<std::string> voci) {
+    voci_ = std::move(voci);
+    valore_ = -1;
+    annuncia(Aspetto::Voci);
+}
 void Controllo::ListIndex(int posizione) {
     if (posizione < -1 || posizione >= static_cast<int>(voci_.size()))
         throw Guasto(guasti::kProprieta);

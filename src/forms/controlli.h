@@ -102,6 +102,8 @@ public:
     /// The items of a list or drop-down list, from 0. `Clear` leaves no position.
     void Clear();
     void AddItem(std::string voce);
+    /// All items at once: a view makes a long list anew for each single one. Leaves no position.
+    void Voci(std::vector<std::string> voci);
     [[nodiscard]] const std::vector<std::string>& Voci() const { return voci_; }
     /// The chosen item; -1 for none.
     [[nodiscard]] int ListIndex() const { return valore_; }

@@ -87,10 +87,9 @@ void SfogliaCartelle::vai(const std::filesystem::path& cartella) {
     cartella_ = cartella;
     const auto trovate = sottocartelle(cartella);
     dentro_ = trovate.value_or(std::vector<std::filesystem::path>());
-    Controllo& lista = controlli_("lstCartelle");
-    lista.Clear();
-    for (const auto& nome : dentro_)
-        lista.AddItem(testo(nome));
+    std::vector<std::string> nomi(dentro_.size());
+    std::transform(dentro_.begin(), dentro_.end(), nomi.begin(), testo);
+    controlli_("lstCartelle").Voci(std::move(nomi));
     controlli_("lblPercorso").Caption(testo(cartella_));
     Controllo& vuota = controlli_("lblVuota");
     vuota.Caption(trovate ? "Nessuna cartella qui dentro" : "La cartella non è accessibile");
