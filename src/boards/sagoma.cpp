@@ -33,7 +33,7 @@ const Layout kLayoutSagoma{"frmSagoma", "", kLarghezza, kAltezza, rgb(243, 245, 
 
 void ApriImpostazioniSchermo(const Ambiente& ambiente, Desktop& desktop, Messaggi& messaggi) {
     const auto file = ambiente.file(kFileImpoSchermo);
-    if (!(std::ofstream(file, std::ios::trunc) << "control.exe desk.cpl,@0,3\r\n").flush())
+    if (!(std::ofstream(file, std::ios::binary) << "control.exe desk.cpl,@0,3\r\n").flush())
         throw Guasto(guasti::kAccesso);
     try {
         desktop.apriImpostazioni(file);
