@@ -97,6 +97,7 @@ void Recordset::definisciCampi(sqlite3_stmt* stmt) {
 }
 
 void Recordset::carica() {
+    // One and the same statement where the rows don't come in one piece.
     const Istruzione colonne = sessione_->prepara(sql_, Operazione::Lettura, sorgente_);
     Istruzione istruzione = sessione_->prepara(intere_.empty() ? sql_ : intere_, Operazione::Lettura);
     const Lettura lettura(sessione_->motore());

@@ -53,8 +53,8 @@ const Definizione& Tabella::definizione() {
     lette_.clear(); // what doesn't fit is read, and refused, each time anew
     Definizione nuova = leggiDefinizione(pagine_, numero_);
     if (!stesseColonne(nuova.colonne, definizione_.colonne))
-        throw Guasto(dao::kCambiatoDaAltri, "Un'altra stazione ha cambiato le colonne di una tabella: "
-                                            "l'archivio va riaperto.");
+        throw Guasto(dao::kOggettoNonValido, "Un'altra stazione ha cambiato le colonne di una tabella: "
+                                             "l'archivio va riaperto.");
     definizione_ = std::move(nuova);
     for (const std::uint32_t n : definizione_.catena)
         lette_.push_back(pagine_.leggi(n));

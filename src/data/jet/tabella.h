@@ -22,7 +22,7 @@ public:
     /// Throws Guasto 3049.
     Tabella(Pagine& pagine, std::uint32_t definizione);
 
-    /// As it stands in the present state; the columns are those of the opening. Throws Guasto 3197 where
+    /// As it stands in the present state; the columns are those of the opening. Throws Guasto 3420 where
     /// somebody has changed the columns since then.
     [[nodiscard]] const Definizione& definizione();
     [[nodiscard]] Pagine& pagine() { return pagine_; }

@@ -159,8 +159,8 @@ TEST_F(JetTabelle, ConColonneCambiateDaAltriNonSiUsanoPiu) {
         altra.registra();
     }
     for (int volta = 0; volta < 2; ++volta) { // each time, not the first time alone
-        EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Numero"); }), dao::kCambiatoDaAltri);
-        EXPECT_EQ(guastoDi([&] { db->Execute("Update Numero set Numero = 5"); }), dao::kCambiatoDaAltri);
+        EXPECT_EQ(guastoDi([&] { (void)db->OpenRecordset("Numero"); }), dao::kOggettoNonValido);
+        EXPECT_EQ(guastoDi([&] { db->Execute("Update Numero set Numero = 5"); }), dao::kOggettoNonValido);
     }
     EXPECT_EQ(ws.OpenDatabase(file.string())->OpenRecordset("Numero")->Fields()["Mumero"].Value(), 0);
 }
