@@ -57,6 +57,20 @@ TEST_F(Sfondo, sceltoConUnDoppioClic) {
     }
 }
 
+TEST_F(Sfondo, unNomeCheLeImpostazioniNonTengonoSiRitrova) {
+    const auto scelto =
+        altrove.percorso() / percorsoUtf8("liberta\xCC\x80 \xE2\x98\x80.jpg"); // an accent apart
+    scrivi(scelto, "nuova");
+    banco.videata->Mostra();
+    scegli(scelto);
+    const auto copia = banco.cartella.percorso() / "liberta_ _.jpg";
+    EXPECT_EQ(leggiFile(copia), "nuova");
+    banco.controllo("imgSfondo").Figura("segno"); // what another reading would replace
+    banco.vista.eventi.attivata();
+    EXPECT_EQ(figura(), "segno");
+    EXPECT_EQ(chiave(), testoUtf8(copia));
+}
+
 TEST_F(Sfondo, riletteAOgniAttivazione) {
     banco.videata->Mostra();
     for (const auto& [valore, file] :
