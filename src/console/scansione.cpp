@@ -149,6 +149,8 @@ void Scansione::MostraEsitoBarCode(bool ok, const std::string& testo, std::int32
     messaggio.Caption(testo);
     pannello.Visible(true);
     pannello.ZOrder();
+    // A number that is on show already leaves the board above the console of a station with one monitor.
+    c_.finestra.InPrimoPiano();
     c_.finestra.Ridisegna();
     c_.porte.orologio.attendi(ok ? 700ms : 2000ms); // keys typed meanwhile are taken only after it
     pannello.Visible(false);

@@ -231,6 +231,20 @@ TEST_F(FinestraProva, ChiusuraAttivazioneESfondo) {
     EXPECT_TRUE(f.close());
 }
 
+TEST_F(FinestraProva, IlFuocoPortaLaFinestraDavantiAncheSeEGiaAttiva) {
+    struct Ordini : QObject {
+        int quanti = 0;
+        bool eventFilter(QObject*, QEvent* e) override {
+            quanti += e->type() == QEvent::ZOrderChange ? 1 : 0;
+            return false;
+        }
+    } ordini;
+    mostra();
+    f.installEventFilter(&ordini);
+    c("txtBarCode").SetFocus();
+    EXPECT_EQ(ordini.quanti, 1) << "a window shown without being activated may lie over it";
+}
+
 TEST(FinestraDentroUnAltra, HaGliAgganciDiQuella) {
     Controlli c(dimostrativo::kLayout);
     QMainWindow esterna;

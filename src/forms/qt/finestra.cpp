@@ -170,13 +170,14 @@ void Finestra::cambiato(const Controllo& c, Aspetto aspetto) {
 }
 
 /// The focus of a window that lies behind another is of no use: on a station with one monitor the board
-/// stands over the console.
+/// stands over the console, also over an active one, since the board comes up without being activated.
 void Finestra::prendiFuoco(QWidget& w) {
     w.setFocus(Qt::OtherFocusReason);
-    if (!window()->isActiveWindow() && !QApplication::activeModalWidget()) {
-        window()->raise();
+    if (QApplication::activeModalWidget())
+        return;
+    window()->raise();
+    if (!window()->isActiveWindow())
         window()->activateWindow();
-    }
 }
 
 QWidget* Finestra::widget(std::string_view nome, int indice) const {
