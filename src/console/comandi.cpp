@@ -105,8 +105,10 @@ void Comandi::cmdUscita() {
 }
 
 void Comandi::cmdRiavvia() {
-    Timer1_.abilita(
-        false); // a rebuild without an archive would end the program before the new one is started
+    // A rebuild or a desk's request without an archive would end the program before the new one is started,
+    // and that one listens at once.
+    Timer1_.abilita(false);
+    c_.porte.server.Chiudi();
     c_.stato.Db->Close();
     c_.cedi("cmdRiavvia/1");
     c_.porte.processi.avvia(c_.porte.ambiente.eseguibile, {"RIAVVIO"}, StileFinestra::Ridotta);

@@ -37,6 +37,8 @@ public:
     virtual ~ServerCasse() = default;
     /// Opens the listening socket; a failure is shown, and the run goes on without a server.
     virtual void Apri() = 0;
+    /// Hangs up on all desks and gives the port free; nothing happens where it isn't open.
+    virtual void Chiudi() = 0;
 };
 
 } // namespace lumigrafo

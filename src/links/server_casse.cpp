@@ -38,6 +38,12 @@ void ServerCasseTcp::Apri() {
     }
 }
 
+void ServerCasseTcp::Chiudi() {
+    for (const auto& presa : wsServer_)
+        if (presa)
+            presa->Close();
+}
+
 void ServerCasseTcp::ConnectionRequest(std::size_t Index, std::int64_t requestID) {
     try {
         ScriviLogConnessioni_("***********   RICHIESTA " + std::to_string(requestID));

@@ -31,6 +31,7 @@ public:
                    ScriviLog ScriviLogConnessioni, int porta = kPortaCasse);
 
     void Apri() override;
+    void Chiudi() override;
     /// The port that it listens on.
     [[nodiscard]] int porta() const { return wsServer_[0] ? wsServer_[0]->LocalPort() : porta_; }
 

@@ -69,6 +69,7 @@ public:
     }
     void SincronizzaLumAndroid(std::int16_t last) override { annota("android " + std::to_string(last)); }
     void Apri() override { annota("server"); }
+    void Chiudi() override { annota("server chiuso"); }
 };
 
 class FinestraFinta : public FinestraConsole, Annotatore {

@@ -173,8 +173,9 @@ TEST(Avvio, WaysOut) {
     Banco riavvio;
     riavvio.caricata();
     EXPECT_THROW(riavvio.premi("cmdRiavvia"), FineProcesso);
-    EXPECT_THAT(riavvio.diario, ElementsAre("cedi cmdRiavvia/1", "avvia /opt/lumigrafo/lumigrafo RIAVVIO",
-                                            "attendi 400", "fine 0"));
+    EXPECT_THAT(riavvio.diario,
+                ElementsAre("server chiuso", "cedi cmdRiavvia/1", "avvia /opt/lumigrafo/lumigrafo RIAVVIO",
+                            "attendi 400", "fine 0"));
 }
 
 TEST(Avvio, ClearingTheBoardTakesItsFileAndItsNumbers) {

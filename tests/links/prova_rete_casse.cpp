@@ -142,7 +142,7 @@ TEST_F(ReteCasse, theWindowsAreServedBetweenDesksThatAskAtOnce) {
     EXPECT_EQ(std::adjacent_find(quando.begin(), quando.end()), quando.end()) << "two in one turn";
 }
 
-TEST_F(ReteCasse, aPortThatIsTakenIsTold) {
+TEST_F(ReteCasse, aPortThatIsTakenIsToldAndOneThatIsGivenFreeIsNot) {
     ServerCasseTcp altro(
         rete, coda, orologio, avvisi, sistema, [](const std::string&) {}, server->porta());
     altro.Apri();
@@ -150,6 +150,13 @@ TEST_F(ReteCasse, aPortThatIsTakenIsTold) {
     EXPECT_EQ(avvisi.mostrati[0].testo,
               "Errore apertura winsock 10048 Controllare porta " + std::to_string(server->porta()));
     EXPECT_EQ(avvisi.mostrati[0].bottoni, Bottoni::Ok);
+
+    const auto c = cassa();
+    c->manda("A");
+    EXPECT_EQ(aspetta(*c, 8), "NUMERO 1");
+    server->Chiudi(); // while the desk still holds its connection
+    altro.Apri();
+    EXPECT_EQ(avvisi.mostrati.size(), 1u);
 }
 
 TEST_F(ReteCasse, hundredsOfParkedDesksGetNothingAndANewOneGetsTheSlotThatIsFreed) {
