@@ -223,8 +223,12 @@ void Chiamata::togliRigaVuota(std::int16_t index, int riga) {
     std::string testi;
     for (int k = 0; k < grid.Cols(); ++k)
         testi += grid.testo(riga, k);
-    if (trim(testi).empty())
-        grid.RemoveItem(riga); // else the emptied cell stays as a hole: cells never slide
+    if (!trim(testi).empty())
+        return; // the emptied cell stays as a hole: cells never slide
+    const bool corrente = riga == grid.Row();
+    grid.RemoveItem(riga);
+    if (corrente) // the order that comes up in its place wasn't touched, and keeps its highlight
+        grid.corrente(-1, -1);
 }
 
 } // namespace lumigrafo

@@ -97,6 +97,10 @@ TEST_F(Chiamate, AnEmptiedRowGoesAndAHoleStays) {
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", "A  3", "A  4", "A  5", "A  6"));
     b.clic(0, "A  2");
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", "A  3", "A  4", "A  5", "A  6"));
+    b.clic(0, "A  1");
+    b.clic(0, "A  3");
+    EXPECT_THAT(b.celle(0), ElementsAre("A  4", "A  5", "A  6"));
+    EXPECT_EQ(b.stato.grid[0].Row(), -1) << "the order that came up isn't painted as the touched one";
 }
 
 TEST_F(Chiamate, StrikeOffModeOnlyStrikesOff) {
