@@ -98,7 +98,11 @@ void DispositoreConsole::ImpostaUnReparto() {
     for (int k = 0; k < 4; ++k)
         celle.larghezzaColonna(k, arrotondato(larghezza / 4));
     celle.altezzaMinima(820);
-    c_.controlli("lblReparto", 0).Width(larghezza);
+    Controllo& lblReparto0 = c_.controlli("lblReparto", 0);
+    lblReparto0.Width(larghezza);
+    // A custom board may come with other quadrants in use: they stay where they were, under the first.
+    grid0.ZOrder();
+    lblReparto0.ZOrder();
 }
 
 void DispositoreConsole::disponiDueReparti() {

@@ -131,6 +131,16 @@ TEST_F(FinestraGestione, ATouchOnAnEmptyGridGivesTheScannerItsFieldBack) {
     EXPECT_EQ(QApplication::focusWidget(), trova("txtBarCode"));
 }
 
+TEST_F(FinestraGestione, WithACustomBoardTheFirstQuadrantCoversTheOthers) {
+    b.reparti({1, 2, 3});
+    b.imposta("TipoLumigrafo", 2);
+    avvia();
+    for (const char* coperta : {"grid(1)", "grid(2)"}) {
+        const QWidget* w = trova(coperta);
+        EXPECT_EQ(w->parentWidget()->childAt(w->geometry().center()), trova("grid(0)")) << coperta;
+    }
+}
+
 TEST_F(FinestraGestione, TheOutcomePanelCoversTheWholeConsole) {
     b.archivio.ordine("A", 1, {{1, 1}});
     avvia();
