@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <string_view>
 
 namespace lumigrafo {
 
@@ -19,6 +20,16 @@ using namespace std::chrono_literals;
 constexpr int kOraCambioGiorno = 5;
 /// A stored truth value, as against the 1 of a ticked box.
 constexpr double kPosizionaVero = kVero;
+
+/// How the path of a network share begins.
+constexpr std::string_view kCondivisione = "\\\\";
+
+/// A share's path keeps its own separator: the operator reads it.
+std::string archivioIn(const std::string& cartella) {
+    if (cartella.starts_with(kCondivisione))
+        return cartella + "\\" + kFileArchivio;
+    return (std::filesystem::path(cartella) / kFileArchivio).string();
+}
 
 /// A failing look-up finds nothing.
 bool fileTrovato(const std::string& percorso) {
@@ -88,7 +99,7 @@ void Avvio::leggiPathDB() {
     c_.stato.InDebug = esiste("sonoindebug");
     if (c_.stato.PathDB.empty())
         c_.stato.PathDB = cartella;
-    c_.stato.PathArchivio = (std::filesystem::path(c_.stato.PathDB) / kFileArchivio).string();
+    c_.stato.PathArchivio = archivioIn(c_.stato.PathDB);
 }
 
 void Avvio::cercaArchivio() {
@@ -112,7 +123,7 @@ void Avvio::archivioNonTrovato() {
 
 std::string Avvio::esitoEco() const {
     const std::string& percorso = c_.stato.PathDB;
-    if (!percorso.starts_with("\\\\"))
+    if (!percorso.starts_with(kCondivisione))
         return {};
     const std::string server = percorso.substr(2, percorso.find('\\', 2) - 2);
     // A server named by a host name always fails: only a dotted address is tried.

@@ -63,25 +63,26 @@ TEST(Avvio, ASecondStartSaysSoAndEndsUnlessItIsARestart) {
 TEST(Avvio, AnAbsentArchiveWarnsOnceAndEndsAfterTheDialog) {
     const struct {
         const char* cartella;
+        const char* archivio;
         bool risponde;
         const char* esito;
     } casi[] = {
-        {"/non/esiste", true, ""},
-        {"\\\\192.168.1.10\\dati", true, "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
-        {"\\\\SERVER\\dati\\x", false,
+        {"/non/esiste", "/non/esiste/archivio.mdb", true, ""},
+        {"\\\\192.168.1.10\\dati", "\\\\192.168.1.10\\dati\\archivio.mdb", true,
+         "PING SU 192.168.1.10 RIUSCITO CORRETTAMENTE"},
+        {"\\\\SERVER\\dati\\x", "\\\\SERVER\\dati\\x\\archivio.mdb", false,
          "PING SU SERVER NON RIUSCITO\r\n\r\nControllare che il server sia acceso, che i cavi "
          "di rete siano collegati e che i led del switch siano accesi."},
     };
-    for (const auto& [cartella, risponde, esito] : casi) {
+    for (const auto& [cartella, archivio, risponde, esito] : casi) {
         SCOPED_TRACE(cartella);
         Banco b;
         b.imposta("DatabaseLumigrafo", cartella);
         b.sistema.risponde = risponde;
         EXPECT_THROW(b.console().carica(), FineProcesso);
         const Avviso& avviso = b.avvisi.mostrati.at(0);
-        EXPECT_EQ(avviso.testo, "Errore di collegamento al database " +
-                                    (std::filesystem::path(cartella) / "archivio.mdb").string() + "\r\n\r\n" +
-                                    esito);
+        EXPECT_EQ(avviso.testo,
+                  std::string("Errore di collegamento al database ") + archivio + "\r\n\r\n" + esito);
         EXPECT_EQ(avviso.titolo, "");
         EXPECT_EQ(avviso.icona, Icona::Esclamazione);
         EXPECT_EQ(b.orologio.atteso, 3s);
