@@ -11,6 +11,8 @@ void Richiami::AggiornaDBLumigrafoCucina(const std::string& sigla, const std::st
 }
 
 void Richiami::ScaricaLumigrafo() {
+    // The program ends after a last message, and a desk's number has no board to go up on meanwhile.
+    c_.porte.server.Chiudi();
     ignorandoGuasti([this] { c_.frmVideata().Scarica(); });
     c_.stato.frmVideata.reset();
     c_.cedi("ScaricaLumigrafo");

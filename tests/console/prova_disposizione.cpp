@@ -96,11 +96,14 @@ TEST(Disposizione, NextButtonTakesTheGridsFoot) {
     EXPECT_THAT(b.posti(0), ElementsAre("", "A 2", "A 9", "", "", ""));
 }
 
-TEST(Disposizione, TypeFourOpensTheServer) {
+TEST(Disposizione, TypeFourOpensTheServerForAsLongAsThereIsABoard) {
     Banco b;
     b.imposta("TipoLumigrafo", 4);
     b.console().carica();
-    EXPECT_THAT(b.diario, testing::Contains("server"));
+    EXPECT_THAT(b.diario, Contains("server"));
+    EXPECT_THAT(b.diario, Not(Contains("server chiuso")));
+    b.console().richiami().ScaricaLumigrafo();
+    EXPECT_THAT(b.diario, Contains("server chiuso"));
 }
 
 } // namespace

@@ -21,9 +21,10 @@ TEST_F(ImpostaTest, OgniChiaveHaIlSuoControlloIlSuoPredefinitoEIlSuoPosto) {
     vede(*i, valori(&Caso::predefinito));
     applica(*i);
     EXPECT_EQ(file(), salvato(valori(&Caso::predefinito))) << "every key, in order";
-    EXPECT_THAT(diario, ElementsAre("messaggio Salvataggio eseguito", "cedi ScaricaLumigrafo",
-                                    "messaggio Riavviare l'applicazione con l'icona sul desktop", "chiusa",
-                                    "fine 0"));
+    EXPECT_THAT(diario,
+                ElementsAre("messaggio Salvataggio eseguito", "server chiuso", "cedi ScaricaLumigrafo",
+                            "messaggio Riavviare l'applicazione con l'icona sul desktop", "chiusa",
+                            "fine 0"));
     EXPECT_EQ(messaggi.mostrati.front().second, 1);
     EXPECT_EQ(messaggi.mostrati.back().second, 2);
 
