@@ -32,6 +32,8 @@ TEST(PasswordQt, TastieraETocchiInsieme) {
     const ServiziPassword servizi{pompa, orologio, sistema};
     poi([](QWidget& w) {
         EXPECT_FALSE(w.close()) << "only its own buttons end it";
+        QTest::keyClick(&w, Qt::Key_Escape);
+        EXPECT_TRUE(w.isVisible());
         tocca(w, "cmdOK"); // nothing typed
         tocca(w, "cmdAnnulla");
     });
@@ -93,6 +95,31 @@ TEST(DialoghiQt, LaTastieraSulVideoScriveESegueIlFuoco) {
     });
     mostraDialogo<ImpoLumigrafoAndroid>(ambiente, scelta);
     EXPECT_EQ(FileIni(ambiente.file(kFileImpostazioni)).LeggiIni(kSezioneAndroid, "IpLumDroid1"), "7");
+}
+
+TEST(DialoghiQt, EscRinunciaSenzaSalvareNulla) {
+    CarattereScelto scelto{"Arial", "30"};
+    poi([](QWidget& w) {
+        QTest::keyClick(figlio(w, "sldFontSize"), Qt::Key_Right);
+        QTest::keyClick(figlio(w, "sldFontSize"), Qt::Key_Escape);
+        EXPECT_FALSE(w.isVisible());
+    });
+    mostraDialogo<SceltaCarattere>(scelto);
+    EXPECT_EQ(scelto.DimensioneFontScelta, "30");
+
+    const CartellaTemporanea t;
+    const Ambiente ambiente{t.percorso(), "", ""};
+    SceltaCartellaFinta cartella;
+    poi([](QWidget& w) {
+        figlio(w, "cmdAnnulla")->setEnabled(false);
+        QTest::keyClick(figlio(w, "txtIP(1)"), Qt::Key_Escape);
+        EXPECT_TRUE(w.isVisible()) << "no way out while its own button is none";
+        figlio(w, "cmdAnnulla")->setEnabled(true);
+        QTest::keyClicks(figlio(w, "txtIP(1)"), QStringLiteral("10.0.0.1"));
+        QTest::keyClick(figlio(w, "txtIP(1)"), Qt::Key_Escape);
+    });
+    mostraDialogo<ImpoLumigrafoAndroid>(ambiente, cartella);
+    EXPECT_FALSE(std::filesystem::exists(ambiente.file(kFileImpostazioni)));
 }
 
 struct SpegniProva : testing::Test {
