@@ -2,6 +2,8 @@
 
 #include "platform/qt/aspetto.h"
 
+#include <QKeyEvent>
+
 namespace lumigrafo {
 
 namespace {
@@ -45,6 +47,19 @@ void CasellaWidget::mostra(const Controllo& c, const Resa& resa) {
         setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         break;
     }
+}
+
+void CasellaWidget::accogli() {
+    if (cursorPosition() == 0)
+        selectAll();
+}
+
+/// Alt with a letter that no button has is no text.
+void CasellaWidget::keyPressEvent(QKeyEvent* evento) {
+    if (evento->modifiers() == Qt::AltModifier && !evento->text().isEmpty())
+        evento->ignore();
+    else
+        QLineEdit::keyPressEvent(evento);
 }
 
 } // namespace lumigrafo

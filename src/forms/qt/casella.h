@@ -11,6 +11,11 @@ class CasellaWidget final : public QLineEdit, public Vista {
 public:
     explicit CasellaWidget(QWidget* padre) : QLineEdit(padre) {}
     void mostra(const Controllo& controllo, const Resa& resa) override;
+    /// The program gave it the focus: what stands in it untouched is replaced by what is typed first.
+    void accogli();
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
 };
 
 } // namespace lumigrafo

@@ -1,5 +1,6 @@
 #include "forms/qt/finestra.h"
 
+#include "forms/qt/casella.h"
 #include "forms/qt/griglia_widget.h"
 #include "platform/guasto.h"
 #include "platform/qt/aspetto.h"
@@ -173,6 +174,8 @@ void Finestra::cambiato(const Controllo& c, Aspetto aspetto) {
 /// stands over the console, also over an active one, since the board comes up without being activated.
 void Finestra::prendiFuoco(QWidget& w) {
     w.setFocus(Qt::OtherFocusReason);
+    if (auto* casella = dynamic_cast<CasellaWidget*>(&w))
+        casella->accogli();
     if (QApplication::activeModalWidget())
         return;
     window()->raise();
