@@ -67,7 +67,7 @@ struct Descrizione {
     bool cliccabile = false;            ///< a label, box or picture that takes clicks
     bool inAlto = false;                ///< a label's line stands at its top, not at the middle of its height
     Twip margine{};                     ///< left free at each side of a label's text
-    bool tagliato = false;    ///< a button's text keeps its size and is cut off where it has no room
+    bool quota = false; ///< a button says in its corner how much smaller than its size the text had to be
     int lunghezzaMassima = 0; ///< characters that a text box holds, a longer text's first; 0: no limit
     Corsa corsa{};            ///< of a slider; of a label that shows fonts, from above 0: their sizes
     char scelta = 0; ///< small letter of the caption, underlined; presses a button or a box with Alt; 0: none

@@ -19,18 +19,18 @@ constexpr std::array<const char*, 8> kFont{"Arial",       "Arial Narrow",       
 
 // clang-format off
 constexpr std::array<Descrizione, 7> kControlli{{
-    {.tipo = Tipo::Lista, .nome = "lstFont", .rett = {225, 225, 4800, 5550}, .carattere = stile::kCasella, .nomeAccessibile = "Tipo di carattere"},
-    {.tipo = Tipo::Bottone, .nome = "cmdArt", .rett = {5250, 225, 8100, 5550}, .testo = stile::kTesto, .sfondo = stile::kCarta, .caption = "ANTEPRIMA", .tagliato = true},
-    {.tipo = Tipo::Gruppo, .nome = "fraDimensione", .rett = {225, 6000, 13125, 1500}},
+    {.tipo = Tipo::Lista, .nome = "lstFont", .rett = {225, 225, 3900, 5820}, .carattere = stile::kCasella, .nomeAccessibile = "Tipo di carattere"},
+    {.tipo = Tipo::Bottone, .nome = "cmdArt", .rett = {4350, 225, 10545, 5820}, .testo = stile::kTesto, .sfondo = stile::kCarta, .caption = "ANTEPRIMA", .quota = true},
+    {.tipo = Tipo::Gruppo, .nome = "fraDimensione", .rett = {225, 6270, 14670, 1500}},
     {.tipo = Tipo::Etichetta, .nome = "lblDimensione", .padre = "fraDimensione", .rett = {225, 150, 2700, 1200}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Dimensione carattere"},
-    {.tipo = Tipo::Cursore, .nome = "sldFontSize", .padre = "fraDimensione", .rett = {3000, 375, 8400, 750}, .nomeAccessibile = "Dimensione carattere", .corsa = kCorsa},
-    {.tipo = Tipo::Etichetta, .nome = "lblValore", .padre = "fraDimensione", .rett = {11550, 150, 1350, 1200}, .carattere = stile::kIntestazione, .allineamento = Allineamento::Centro, .testo = stile::kTitolo},
-    stile::conferma("cmdOk", {10050, 7725, 3300, 1050}, "OK"),
+    {.tipo = Tipo::Cursore, .nome = "sldFontSize", .padre = "fraDimensione", .rett = {3000, 375, 9945, 750}, .nomeAccessibile = "Dimensione carattere", .corsa = kCorsa},
+    {.tipo = Tipo::Etichetta, .nome = "lblValore", .padre = "fraDimensione", .rett = {13095, 150, 1350, 1200}, .carattere = stile::kIntestazione, .allineamento = Allineamento::Centro, .testo = stile::kTitolo},
+    stile::conferma("cmdOk", {11595, 7995, 3300, 1050}, "OK"),
 }};
 // clang-format on
 static_assert(layoutValido(kControlli));
 
-const Layout kLayout{"frmFontSize", "Dimensione carattere", 13575, 9000, stile::kFondo, kControlli};
+const Layout kLayout{"frmFontSize", "Dimensione carattere", 15120, 9270, stile::kFondo, kControlli};
 
 /// The slider holds whole sizes between its ends.
 int sullaCorsa(const std::string& dimensione) {

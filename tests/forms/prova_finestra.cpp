@@ -311,6 +311,10 @@ TEST(TestoAdattato, FrasiVannoACapoNumeriNo) {
         t.imposta(QString::fromUtf8(testo), grande, Allineamento::Centro);
         EXPECT_EQ(t.pixelIn(area) == 40, intero) << testo << " " << area.width() << "x" << area.height();
     }
+    TestoAdattato diBottone;
+    diBottone.frase(2);
+    diBottone.imposta(QStringLiteral("BAR PANINI"), grande, Allineamento::Centro);
+    EXPECT_EQ(diBottone.pixelIn({200, 200}), 40);
     // Of thousands of characters without a blank a single line could not be read.
     TestoAdattato lungo;
     lungo.imposta(QString(5000, QLatin1Char('\\')), grande, Allineamento::Centro);

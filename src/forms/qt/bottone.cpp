@@ -1,6 +1,7 @@
 #include "forms/qt/bottone.h"
 
 #include "platform/qt/aspetto.h"
+#include "platform/qt/caratteri.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -24,6 +25,7 @@ constexpr int kChiaroDisabilitato = 106;
 BottoneWidget::BottoneWidget(QWidget* padre) : QAbstractButton(padre) {
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
+    testo_.frase(2); // a caption of two words is read better in two lines than small
 }
 
 void BottoneWidget::mostra(const Controllo& c, const Resa& resa) {
@@ -35,7 +37,7 @@ void BottoneWidget::mostra(const Controllo& c, const Resa& resa) {
     setText(QString(testo_.testo()).replace(QLatin1Char('&'), QLatin1String("&&")));
     setShortcut(scorciatoia(c)); // a new text drops the old one
     testo_.sottolinea(c.disegno().scelta);
-    testo_.taglia(c.disegno().tagliato);
+    quota_ = c.disegno().quota;
     tinta_ = c.ForeColor();
     sfondo_ = c.BackColor();
     raggio_ = resa.raggio;
@@ -77,9 +79,11 @@ void BottoneWidget::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     const QColor base = sfondo_ ? aspetto::colore(*sfondo_) : aspetto::kBottone;
     p.setBrush(sfondoDi(base));
-    const double filo = filoCon(raggio_) * (hasFocus() ? 2.5 : 1);
-    p.setPen(QPen(hasFocus() ? aspetto::kAccento : base.darker(kScuroBordo), filo));
+    const double filo = filoCon(raggio_);
+    p.setPen(QPen(base.darker(kScuroBordo), filo));
     p.drawRoundedRect(QRectF(rect()).adjusted(filo / 2, filo / 2, -filo / 2, -filo / 2), raggio_, raggio_);
+    if (hasFocus())
+        disegnaFuoco(p);
     const auto [figura, testo] = aree();
     if (isDown())
         p.translate(0, 1);
@@ -87,6 +91,32 @@ void BottoneWidget::paintEvent(QPaintEvent*) {
         p.setOpacity(kVeloDisabilitato);
     testo_.disegna(p, testo, aspetto::colore(tinta_));
     figura_.disegna(p, figura, Adattamento::Intera);
+    if (quota_)
+        disegnaQuota(p, testo);
+}
+
+/// A dark ring with a light one inside it: one of the two is seen on whatever colour the button has.
+void BottoneWidget::disegnaFuoco(QPainter& p) const {
+    const double filo = filoCon(raggio_) * 2;
+    const auto anello = [&](const QColor& colore, double dentro) {
+        p.setPen(QPen(colore, filo));
+        p.drawRoundedRect(QRectF(rect()).adjusted(dentro, dentro, -dentro, -dentro), raggio_, raggio_);
+    };
+    p.setBrush(Qt::NoBrush);
+    anello(aspetto::kFuoco, filo / 2);
+    anello(aspetto::kCarta, filo * 1.5);
+}
+
+void BottoneWidget::disegnaQuota(QPainter& p, const QRect& testo) const {
+    constexpr double kAltoNota = 2.2; // radii of the corners
+    const int pieno = testo_.carattere().pixelSize(), usato = testo_.pixelIn(testo.size());
+    if (usato >= pieno)
+        return;
+    QFont nota = carattere(QStringLiteral("Arial"), qRound(kAltoNota * raggio_), false, false);
+    p.setFont(nota);
+    p.setPen(aspetto::kQuieto);
+    p.drawText(testo, Qt::AlignRight | Qt::AlignBottom,
+               QStringLiteral("%1 %").arg(std::max(1, 100 * usato / pieno)));
 }
 
 /// The space bar alone presses it. A scanner ends each code with Return: it must not press whatever button

@@ -31,12 +31,15 @@ protected:
 
 private:
     [[nodiscard]] QColor sfondoDi(const QColor& base) const;
+    void disegnaFuoco(QPainter& p) const;
+    void disegnaQuota(QPainter& p, const QRect& testo) const;
 
     TestoAdattato testo_;
     Figura figura_{[this] { update(); }};
     Colore tinta_;
     std::optional<Colore> sfondo_;
     int raggio_ = 0;
+    bool quota_ = false;
 };
 
 } // namespace lumigrafo

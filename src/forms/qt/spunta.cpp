@@ -41,9 +41,15 @@ void SpuntaWidget::paintEvent(QPaintEvent*) {
     p.setRenderHint(QPainter::Antialiasing);
     const double bordo = filoCon(raggio_) * 2;
     const QRectF casella(bordo, (height() - lato_) / 2.0, lato_, lato_);
+    if (hasFocus()) { // round the words too: a ticked box has the accent's colour already
+        const double filo = filoCon(raggio_) * 2;
+        p.setPen(QPen(aspetto::kFuoco, filo));
+        p.drawRoundedRect(QRectF(rect()).adjusted(filo / 2, filo / 2, -filo / 2, -filo / 2), raggio_,
+                          raggio_);
+    }
     const bool acceso = isEnabled() && isChecked();
     const bool vivo = hasFocus() || isDown() || acceso;
-    p.setPen(QPen(vivo ? aspetto::kAccento : aspetto::kBordo, filoCon(raggio_) * (hasFocus() ? 2.5 : 1.5)));
+    p.setPen(QPen(vivo ? aspetto::kAccento : aspetto::kBordo, filoCon(raggio_) * 1.5));
     p.setBrush(acceso ? aspetto::kAccento : underMouse() ? aspetto::kFinestra : aspetto::kCarta);
     p.drawRoundedRect(casella, raggio_ / 2.0, raggio_ / 2.0);
     if (isChecked()) {

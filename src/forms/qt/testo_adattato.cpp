@@ -13,7 +13,6 @@ namespace lumigrafo {
 namespace {
 
 constexpr int kPixelMinimi = 6;
-constexpr int kParoleDiFrase = 3;
 constexpr int kRigheSmisurate = 10;
 
 QFont conPixel(QFont f, int pixel) {
@@ -108,13 +107,11 @@ void TestoAdattato::adatta(QSize area) const {
     misurata_ = area;
     adattato_ = carattere_;
     righe_.reset();
-    if (tagliato_)
-        return;
     const QFontMetricsF m(carattere_);
     const auto parole = testo_.split(QLatin1Char(' '), Qt::SkipEmptyParts).size();
     const double lunghezza = m.horizontalAdvance(testo_);
     const bool spazio = 2 * m.height() <= area.height();
-    const bool frase = parole >= kParoleDiFrase && lunghezza > area.width() && spazio;
+    const bool frase = parole >= paroleDiFrase_ && lunghezza > area.width() && spazio;
     const bool smisurato = lunghezza > kRigheSmisurate * area.width() && spazio;
     if (frase || smisurato || testo_.contains(QLatin1Char('\n')))
         adattaInRighe(area, lunghezza,
@@ -157,6 +154,7 @@ void TestoAdattato::disegna(QPainter& pennello, const QRect& area, const QColor&
     if (righe_) {
         righe_->draw(&pennello,
                      QPointF(area.left(), area.top() + std::round((area.height() - altezza_) / 2)));
+        sottolineaNelleRighe(pennello, area);
         return;
     }
     // Capitals and figures are centred, whatever their neighbours hang below the line; then the ink is kept
@@ -175,17 +173,33 @@ void TestoAdattato::disegna(QPainter& pennello, const QRect& area, const QColor&
     sottolinea(pennello, inizio);
 }
 
+qsizetype TestoAdattato::postoSottolineato() const {
+    return sottolineata_ ? testo_.indexOf(QLatin1Char(sottolineata_), 0, Qt::CaseInsensitive) : -1;
+}
+
 void TestoAdattato::sottolinea(QPainter& pennello, QPointF inizio) const {
-    const auto posto =
-        sottolineata_ ? testo_.indexOf(QLatin1Char(sottolineata_), 0, Qt::CaseInsensitive) : -1;
+    const auto posto = postoSottolineato();
     if (posto < 0)
         return;
     const QFontMetricsF m(adattato_);
-    const double prima = m.horizontalAdvance(testo_.left(posto));
+    tratto(pennello, inizio + QPointF(m.horizontalAdvance(testo_.left(posto)), 0),
+           m.horizontalAdvance(testo_.at(posto)));
+}
+
+void TestoAdattato::sottolineaNelleRighe(QPainter& pennello, const QRect& area) const {
+    const auto posto = static_cast<int>(postoSottolineato());
+    const QTextLine riga = posto < 0 ? QTextLine() : righe_->lineForTextPosition(posto);
+    if (!riga.isValid())
+        return;
+    const double prima = riga.cursorToX(posto);
+    const QPointF alto(area.left(), area.top() + std::round((area.height() - altezza_) / 2));
+    tratto(pennello, alto + QPointF(prima, riga.y() + riga.ascent()), riga.cursorToX(posto + 1) - prima);
+}
+
+/// `inizio` is where the letter stands on its line.
+void TestoAdattato::tratto(QPainter& pennello, QPointF inizio, double lungo) const {
     const double spesso = std::max(1.0, std::round(adattato_.pixelSize() / 16.0));
-    pennello.fillRect(
-        QRectF(inizio.x() + prima, inizio.y() + 1.5 * spesso, m.horizontalAdvance(testo_.at(posto)), spesso),
-        pennello.pen().color());
+    pennello.fillRect(QRectF(inizio.x(), inizio.y() + 1.5 * spesso, lungo, spesso), pennello.pen().color());
 }
 
 } // namespace lumigrafo

@@ -33,7 +33,7 @@ namespace lumigrafo {
 
 /// The style sheet of items: lines as high as a finger is broad, at the window's present size.
 [[nodiscard]] inline QString foglioVoci(const Resa& resa) {
-    constexpr int kAltezza = 660; // twips: 44 pixels at the design
+    constexpr int kAltezza = 720; // twips: 48 pixels at the design
     return QStringLiteral(
                "QListView { background: #ffffff; border: 1px solid #becad5; outline: 0; }"
                "QListView::item { height: %1px; padding-left: %2px; color: #1f2933; border: 0; background: #ffffff; }"

@@ -19,6 +19,8 @@ inline constexpr QColor kBottone{226, 233, 240};
 inline constexpr QColor kBordo{190, 202, 213};
 inline constexpr QColor kRigo{217, 224, 230};
 inline constexpr QColor kAccento{47, 109, 168};
+inline constexpr QColor kFuoco{24, 61, 99}; ///< round what has the focus
+inline constexpr QColor kQuieto{82, 96, 109};
 
 /// Least height of what a finger touches, device-independent pixels.
 inline constexpr int kTocco = 48;
