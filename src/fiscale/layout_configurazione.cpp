@@ -21,14 +21,16 @@ constexpr Colore kCarta = rgb(255, 255, 255);
 constexpr auto kCentro = Allineamento::Centro;
 
 constexpr Descrizione bottone(std::string_view nome, int indice, Rettangolo rett, std::string_view caption,
-                              Carattere carattere = kGrassetto) {
+                              Carattere carattere = kGrassetto, char scelta = 0) {
     return {.tipo = Tipo::Bottone,
             .nome = nome,
             .indice = indice,
             .rett = rett,
             .carattere = carattere,
             .allineamento = kCentro,
-            .caption = caption};
+            .testo = kInchiostro,
+            .caption = caption,
+            .scelta = scelta};
 }
 
 constexpr Descrizione etichetta(std::string_view nome, Rettangolo rett, std::string_view caption) {
@@ -55,11 +57,11 @@ constexpr Descrizione riga(std::string_view nome, int indice, Twip left, std::st
 
 // clang-format off
 constexpr std::array<Descrizione, 27> kControlli{{
-    bottone("cmdDriver", 0, {300, 120, 2784, 750}, "File di testo"),
-    bottone("cmdDriver", 1, {3234, 120, 2784, 750}, "Rete"),
-    bottone("cmdDriver", 2, {6168, 120, 2784, 750}, "Dispositivo"),
-    bottone("cmdDriver", 3, {9102, 120, 2784, 750}, "Coda di stampa"),
-    bottone("cmdDriver", 4, {12036, 120, 2784, 750}, "Programma"),
+    bottone("cmdDriver", 0, {300, 120, 2784, 750}, "File di testo", kGrassetto, 'f'),
+    bottone("cmdDriver", 1, {3234, 120, 2784, 750}, "Rete", kGrassetto, 'r'),
+    bottone("cmdDriver", 2, {6168, 120, 2784, 750}, "Dispositivo", kGrassetto, 'd'),
+    bottone("cmdDriver", 3, {9102, 120, 2784, 750}, "Coda di stampa", kGrassetto, 'c'),
+    bottone("cmdDriver", 4, {12036, 120, 2784, 750}, "Programma", kGrassetto, 'g'),
     etichetta("lblIndirizzo", {300, 990, 1800, 735}, ""),
     {.tipo = Tipo::Casella, .nome = "txtIndirizzo", .rett = {2100, 990, 8550, 735}, .carattere = kTesto, .testo = kInchiostro, .sfondo = kCarta, .nomeAccessibile = "Indirizzo"},
     bottone("cmdStato", kSenzaIndice, {10800, 990, 4020, 735}, "", kTesto),
@@ -74,9 +76,9 @@ constexpr std::array<Descrizione, 27> kControlli{{
     riga("txtPiede", 1, 7710, "Piede, riga 2"),
     riga("txtPiede", 2, 7710, "Piede, riga 3"),
     etichetta("lblRiga", {7710, 4920, 3300, 720}, "Caratteri per riga"),
-    {.tipo = Tipo::Bottone, .nome = "cmdMeno", .rett = {11220, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "−", .nomeAccessibile = "Un carattere in meno"},
+    {.tipo = Tipo::Bottone, .nome = "cmdMeno", .rett = {11220, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .testo = kInchiostro, .caption = "−", .nomeAccessibile = "Un carattere in meno"},
     {.tipo = Tipo::Etichetta, .nome = "lblCaratteri", .rett = {12420, 4920, 1200, 720}, .carattere = kGrassetto, .allineamento = kCentro, .testo = kInchiostro},
-    {.tipo = Tipo::Bottone, .nome = "cmdPiu", .rett = {13620, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .caption = "+", .nomeAccessibile = "Un carattere in più"},
+    {.tipo = Tipo::Bottone, .nome = "cmdPiu", .rett = {13620, 4920, 1200, 720}, .carattere = kSegno, .allineamento = kCentro, .testo = kInchiostro, .caption = "+", .nomeAccessibile = "Un carattere in più"},
     stile::bottone("cmdProva", {300, 5775, 3600, 750}, "Prova di stampa"),
     stile::bottone("cmdAnnulla", {7710, 5775, 3480, 750}, "Annulla"),
     stile::conferma("cmdSalva", {11340, 5775, 3480, 750}, "Salva"),
@@ -89,6 +91,6 @@ static_assert(layoutValido(kControlli));
 } // namespace
 
 const Layout kLayoutConfigurazioneFiscale{
-    "frmConfiguraFiscale", "Impostazioni fiscali", kLarghezza, kAltezza, rgb(236, 240, 244), kControlli};
+    "frmConfiguraFiscale", "Impostazioni fiscali", kLarghezza, kAltezza, stile::kFondo, kControlli};
 
 } // namespace lumigrafo

@@ -22,7 +22,7 @@ constexpr std::array<Descrizione, 13> kControlli{{
     {.tipo = Tipo::Riquadro, .nome = "fraStato", .padre = "", .rett = {300, 1170, 13800, 900}, .sfondo = kCarta},
     {.tipo = Tipo::Riquadro, .nome = "fraSpia", .padre = "fraStato", .rett = {240, 270, 360, 360}, .sfondo = kGrigio},
     {.tipo = Tipo::Etichetta, .nome = "lblStato", .padre = "fraStato", .rett = {840, 60, 10020, 780}, .carattere = kGrassetto, .testo = kInchiostro},
-    {.tipo = Tipo::Bottone, .nome = "cmdAggiorna", .padre = "fraStato", .rett = {11100, 75, 2550, 750}, .carattere = kTesto, .allineamento = Allineamento::Centro, .caption = "Aggiorna", .scelta = 'a'},
+    {.tipo = Tipo::Bottone, .nome = "cmdAggiorna", .padre = "fraStato", .rett = {11100, 75, 2550, 750}, .carattere = kGrassetto, .allineamento = Allineamento::Centro, .testo = kInchiostro, .caption = "Aggiorna", .scelta = 'a'},
     {.tipo = Tipo::Etichetta, .nome = "lblUltimi", .padre = "", .rett = {300, 2220, 9000, 450}, .carattere = kGrassetto, .testo = kGrigio, .caption = "Ultimi scontrini"},
     {.tipo = Tipo::Griglia, .nome = "gridScontrini", .padre = "", .rett = {300, 2700, 13800, 4650}, .carattere = kTesto, .testo = kInchiostro, .sfondo = kCarta},
     {.tipo = Tipo::Etichetta, .nome = "lblVuoto", .padre = "", .rett = {600, 4500, 13200, 900}, .carattere = kTesto, .allineamento = Allineamento::Centro, .testo = kGrigio, .caption = "Nessuno scontrino ancora", .visibile = false},
@@ -37,6 +37,6 @@ static_assert(layoutValido(kControlli));
 } // namespace
 
 const Layout kLayoutUtilitaFiscale{"frmUtilitaFiscale", "Utilità fiscali", 14400, 9630,
-                                   rgb(236, 240, 244),  kControlli};
+                                   stile::kFondo,       kControlli};
 
 } // namespace lumigrafo

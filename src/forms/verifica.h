@@ -53,7 +53,8 @@ namespace lumigrafo {
     return true;
 }
 
-/// No two controls that Alt and a letter press share the letter, and each letter is one of its caption.
+/// No two controls that Alt and a letter press share the letter, but for those of one control array, from one
+/// to the next of which it goes; and each letter is one of its caption.
 [[nodiscard]] constexpr bool scelteUniche(std::span<const Descrizione> righe) {
     constexpr auto nellaScritta = [](const Descrizione& d) {
         return d.caption.empty() || std::any_of(d.caption.begin(), d.caption.end(), [&](char c) {
@@ -66,8 +67,8 @@ namespace lumigrafo {
         if (!nellaScritta(righe[i]))
             return false;
         for (std::size_t k = 0; k < i; ++k)
-            if (righe[k].scelta == righe[i].scelta && righe[k].tipo != Tipo::Etichetta &&
-                righe[i].tipo != Tipo::Etichetta)
+            if (righe[k].scelta == righe[i].scelta && righe[k].nome != righe[i].nome &&
+                righe[k].tipo != Tipo::Etichetta && righe[i].tipo != Tipo::Etichetta)
                 return false;
     }
     return true;

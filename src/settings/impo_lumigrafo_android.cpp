@@ -25,7 +25,7 @@ constexpr std::array<Descrizione, 6> lumigrafo(int i, std::string_view cornice, 
         {.tipo = Tipo::Gruppo, .nome = "FrameAndroid", .indice = i, .rett = {left, 225, 4350, 3600}, .carattere = stile::kGruppo, .testo = stile::kTitolo, .caption = titolo},
         {.tipo = Tipo::Etichetta, .nome = "lblIP", .indice = i, .padre = cornice, .rett = {225, 450, 3900, 375}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Indirizzo IP"},
         {.tipo = Tipo::Casella, .nome = "txtIP", .indice = i, .padre = cornice, .rett = {225, 825, 3900, 825}, .carattere = stile::kCasella, .testo = stile::kTesto, .nomeAccessibile = "Indirizzo IP"},
-        {.tipo = Tipo::Etichetta, .nome = "lblFont", .indice = i, .padre = cornice, .rett = {225, 1800, 3150, 750}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Dimensione font (0 = automatico)"},
+        {.tipo = Tipo::Etichetta, .nome = "lblFont", .indice = i, .padre = cornice, .rett = {225, 1800, 1830, 750}, .carattere = stile::kEtichetta, .testo = stile::kTesto, .caption = "Dimensione font (0 = automatico)"},
         {.tipo = Tipo::Etichetta, .nome = "lblValore", .indice = i, .padre = cornice, .rett = {3375, 1800, 750, 750}, .carattere = stile::kIntestazione, .allineamento = Allineamento::Destra, .testo = stile::kTitolo},
         {.tipo = Tipo::Cursore, .nome = "sldFont", .indice = i, .padre = cornice, .rett = {225, 2625, 3900, 750}, .nomeAccessibile = "Dimensione font (0 = automatico)", .corsa = kCorsa},
     }};

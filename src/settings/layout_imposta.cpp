@@ -138,14 +138,14 @@ constexpr std::array kLumigrafo{
     gruppo("fraLumigrafo", px(12, 62, 392, 326)),
     lista("cboTipoLumigrafo", kSenzaIndice, px(12, 10, 252, 48), "Tipo lumigrafo"),
     spunta("chk9Numeri", "fraLumigrafo", px(274, 10, 110, 48), "9 numeri", 'u'),
-    etichetta("lblCategoria", 0, "fraLumigrafo", px(12, 62, 168, 48), "Categoria quadrante 1"),
-    lista("cboCodCategoria", 0, px(184, 62, 196, 48), "Categoria quadrante 1"),
-    etichetta("lblCategoria", 3, "fraLumigrafo", px(12, 114, 168, 48), "Ulter. categ x quadrante 1"),
-    lista("cboCodCategoria", 3, px(184, 114, 196, 48), "Ulter. categ x quadrante 1"),
-    etichetta("lblCategoria", 1, "fraLumigrafo", px(12, 166, 168, 48), "Categoria quadrante 2"),
-    lista("cboCodCategoria", 1, px(184, 166, 196, 48), "Categoria quadrante 2"),
-    etichetta("lblCategoria", 2, "fraLumigrafo", px(12, 218, 168, 48), "Categoria quadrante 3"),
-    lista("cboCodCategoria", 2, px(184, 218, 196, 48), "Categoria quadrante 3"),
+    etichetta("lblCategoria", 0, "fraLumigrafo", px(12, 62, 178, 48), "Categoria quadrante 1"),
+    lista("cboCodCategoria", 0, px(192, 62, 188, 48), "Categoria quadrante 1"),
+    etichetta("lblCategoria", 3, "fraLumigrafo", px(12, 114, 178, 48), "Ulter. categ x quadrante 1"),
+    lista("cboCodCategoria", 3, px(192, 114, 188, 48), "Ulter. categ x quadrante 1"),
+    etichetta("lblCategoria", 1, "fraLumigrafo", px(12, 166, 178, 48), "Categoria quadrante 2"),
+    lista("cboCodCategoria", 1, px(192, 166, 188, 48), "Categoria quadrante 2"),
+    etichetta("lblCategoria", 2, "fraLumigrafo", px(12, 218, 178, 48), "Categoria quadrante 3"),
+    lista("cboCodCategoria", 2, px(192, 218, 188, 48), "Categoria quadrante 3"),
     etichetta("lblTitolo", kSenzaIndice, "fraLumigrafo", px(12, 270, 112, 48), "Titolo lumigrafo"),
     casella("txtTitolo", "fraLumigrafo", px(126, 270, 254, 48), "Titolo lumigrafo", 0, stile::kEtichetta),
 };
@@ -156,9 +156,9 @@ constexpr std::array<Descrizione, 6> quadrante(int i, std::string_view titolo, s
     const double y = 62.0 + i * 52;
     return {
         etichetta("lblQuadrante", i, "fraColori", px(12, y, 98, 48), titolo),
-        bottone("cmdColore", "fraColori", px(114, y, 96, 48), "Colore", '\0', i, colore),
+        bottone("cmdColore", "fraColori", px(114, y, 96, 48), "Colore", 'o', i, colore),
         campione("lblColore", i, "fraColori", px(216, y, 136, 48), "Testo esempio"),
-        bottone("cmdFont", "fraColori", px(358, y, 70, 48), "Font", '\0', i, font),
+        bottone("cmdFont", "fraColori", px(358, y, 70, 48), "Font", 'f', i, font),
         campioneCarattere("lblFont", i, px(434, y, 96, 48), "XXX"),
         grandezza("lblGrandezza", i, y),
     };
@@ -186,13 +186,13 @@ constexpr std::array kNumeri{
     gruppo("fraGriglie", px(412, 396, 584, 62)),
     etichetta("lblNumeroMassimoRighe", kSenzaIndice, "fraGriglie", px(12, 8, 262, 48), "Numero massimo di righe nelle griglie di gestione"),
     casella("txtNumeroMassimoRighe", "fraGriglie", px(278, 8, 76, 48), "Numero massimo di righe nelle griglie di gestione", 3),
-    etichetta("lblNumeroLampeggi", kSenzaIndice, "fraGriglie", px(374, 8, 118, 48), "Numero lampeggi"),
+    etichetta("lblNumeroLampeggi", kSenzaIndice, "fraGriglie", px(366, 8, 128, 48), "Numero lampeggi"),
     casella("txtNumeroLampeggi", "fraGriglie", px(496, 8, 76, 48), "Numero lampeggi", 3),
 };
 
 constexpr std::array kVoce{
     gruppo("fraVoce", px(12, 396, 392, 242)),
-    spunta("chkVocale", "fraVoce", px(12, 56, 368, 48), "Pronuncia vocale", 'p'),
+    spunta("chkVocale", "fraVoce", px(12, 56, 368, 48), "Pronuncia vocale", 'v'),
     etichetta("lblDicitura", kSenzaIndice, "fraVoce", px(12, 6, 184, 48), "Dicitura (valido solo per 1  quadrante)"),
     casella("txtDicitura", "fraVoce", px(200, 6, 180, 48), "Dicitura"),
     etichetta("lblTestoVelocita", kSenzaIndice, "fraVoce", px(12, 116, 132, 48), "Velocità pronuncia"),
@@ -207,18 +207,18 @@ constexpr std::array kOpzioni{
     gruppo("fraOpzioni", px(412, 466, 584, 172), "Opzioni"),
     spunta("chkFiscale", "fraOpzioni", px(12, 26, 252, 48), "Emetti scontrino fiscale", 'e'),
     bottone("cmdFiscale", "fraOpzioni", px(280, 22, 142, 48), "Impo fiscali", 'l'),
-    bottone("cmdTestFiscale", "fraOpzioni", px(430, 22, 142, 48), "Test fiscale"),
+    bottone("cmdTestFiscale", "fraOpzioni", px(430, 22, 142, 48), "Test fiscale", 'i'),
     spunta("chkBottoneAvanti", "fraOpzioni", px(12, 74, 252, 48), "Bottone per richiamo prossimo numero", 'b'),
     spunta("chkPosiziona", "fraOpzioni", px(280, 74, 296, 48), "Posiziona automaticamente lumigrafo su 2' schermo all'avvio", 'z'),
-    spunta("chkPubblicitaMirtolanda", "fraOpzioni", px(12, 122, 252, 48), "Pannello pubblicità fornitore software", 'f'),
-    spunta("chkResizePubblicita", "fraOpzioni", px(280, 122, 296, 48), "Adatta automaticamente immagini pubblicità", 'i'),
+    spunta("chkPubblicitaMirtolanda", "fraOpzioni", px(12, 122, 252, 48), "Pannello pubblicità fornitore software", 'w'),
+    spunta("chkResizePubblicita", "fraOpzioni", px(280, 122, 296, 48), "Adatta automaticamente immagini pubblicità", 'g'),
 };
 
 constexpr std::array kBottoni{
     bottone("cmdAndroid", "", px(412, 8, 288, 48), "Impostazioni lumigrafo Android", 'd'),
     bottone("cmdImpoSchermo", "", px(708, 8, 288, 48), "Apri impostazioni schermo", 's'),
     bottone("cmdNumeri", "", px(12, 652, 192, 64), "Inserisci numeri per test", 't'),
-    bottone("cmdPosiziona", "", px(212, 652, 192, 64), "Posiziona nello schermo esteso", 'o'),
+    bottone("cmdPosiziona", "", px(212, 652, 192, 64), "Posiziona nello schermo esteso", 'p'),
     bottone("cmdResetta", "", px(412, 652, 206, 64), "Resetta posizione videata lumigrafo", 'r'),
     stile::bottone("cmdAnnulla", px(636, 652, 150, 64), "Annulla"),
     stile::conferma("cmdApplica", px(794, 652, 202, 64), "Applica ed esci"),

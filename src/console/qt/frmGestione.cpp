@@ -22,9 +22,9 @@ frmGestione::frmGestione() {
 frmGestione::~frmGestione() = default;
 
 void frmGestione::creaMenu() {
-    voce("mnuImposta", QStringLiteral("Imposta"), [this] { console_->mnuImposta(); });
-    voce("mnuDatabase", QStringLiteral("Database"), [this] { console_->mnuDatabase(); });
-    mnuFiscale_ = voce("mnuFiscale", QStringLiteral("Utilità Fiscali"), [this] { console_->mnuFiscale(); });
+    voce("mnuImposta", QStringLiteral("&Imposta"), [this] { console_->mnuImposta(); });
+    voce("mnuDatabase", QStringLiteral("&Database"), [this] { console_->mnuDatabase(); });
+    mnuFiscale_ = voce("mnuFiscale", QStringLiteral("&Utilità Fiscali"), [this] { console_->mnuFiscale(); });
 }
 
 QAction* frmGestione::voce(const char* nome, const QString& testo, std::function<void()> azione) {
