@@ -4,19 +4,24 @@
 
 #include <QScrollBar>
 
+#include <algorithm>
+
 namespace lumigrafo {
 
 namespace {
+
+constexpr Twip kBarra = 720; // breadth of the scroll bar: a finger's at the design
 
 const QString kRiga = QStringLiteral("\n");
 const QString kRigaCaption = QStringLiteral("\r\n");
 
 // Colours of the text, and a scroll bar made for a finger.
 constexpr auto kFoglio = R"(
-QPlainTextEdit { color: %1; background: %2; border: 1px solid %3; border-radius: 6px; padding: 2px 4px; }
-QPlainTextEdit:focus { border: 2px solid %4; padding: 1px 3px; }
+QPlainTextEdit { color: %1; background: %2; border: %7px solid %3; border-radius: %8px; padding: %9px; }
+QPlainTextEdit:focus { border: %9px solid %4; padding: %7px; }
 QScrollBar:vertical { width: %5px; background: %6; border: none; margin: 0; }
-QScrollBar::handle:vertical { background: %3; border-radius: 6px; min-height: %5px; margin: 3px; }
+QScrollBar::handle:vertical { background: %3; border-radius: %8px; min-height: %5px; margin: %9px; }
+QScrollBar::handle:vertical:disabled { background: %6; }
 QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }
 )";
 
@@ -26,6 +31,10 @@ CasellaRigheWidget::CasellaRigheWidget(QWidget* padre) : QPlainTextEdit(padre) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTabChangesFocus(true);
+    QScrollBar* barra = verticalScrollBar();
+    const auto segui = [barra] { barra->setEnabled(barra->maximum() > barra->minimum()); };
+    connect(barra, &QScrollBar::rangeChanged, barra, segui);
+    segui();
 }
 
 void CasellaRigheWidget::mostra(const Controllo& c, const Resa& resa) {
@@ -39,11 +48,16 @@ void CasellaRigheWidget::mostra(const Controllo& c, const Resa& resa) {
     if (font() != resa.carattere)
         setFont(resa.carattere);
     const QColor sfondo = c.BackColor() ? aspetto::colore(*c.BackColor()) : aspetto::kCarta;
+    const int filo = qRound(filoCon(resa.raggio));
     const QString foglio = QString::fromUtf8(kFoglio)
                                .arg(aspetto::colore(c.ForeColor()).name(), sfondo.name(),
                                     aspetto::kBordo.name(), aspetto::kAccento.name())
-                               .arg(aspetto::kTocco)
-                               .arg(aspetto::kFinestra.name());
+                               .arg(std::max(aspetto::kTocco, resa.scala.altezza(kBarra)))
+                               .arg(aspetto::kFinestra.name())
+                               .arg(filo)
+                               .arg(resa.raggio)
+                               .arg(2 * filo);
+    document()->setDocumentMargin(4.0 * filo);
     if (styleSheet() != foglio)
         setStyleSheet(foglio);
 }
