@@ -4,7 +4,6 @@
 #include "platform/qt/aspetto.h"
 
 #include <QAction>
-#include <QIcon>
 #include <QKeyEvent>
 #include <QMenuBar>
 
@@ -13,7 +12,6 @@ namespace lumigrafo {
 frmGestione::frmGestione() {
     setObjectName(QStringLiteral("frmGestione"));
     setWindowTitle(QStringLiteral("Lumigrafo"));
-    setWindowIcon(QIcon(QStringLiteral(":/figure/icona.svg")));
     setWindowState(Qt::WindowMaximized);
     creaMenu();
     ingrandisciMenu();

@@ -101,6 +101,7 @@ void applica(QApplication& applicazione) {
     QApplication::setPalette(tavolozza());
     QApplication::setFont(carattere(QStringLiteral("Arial"), kCaratterePixel));
     applicazione.setStyleSheet(QString::fromUtf8(kFoglio));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/figure/icona.svg")));
 }
 
 } // namespace lumigrafo::aspetto

@@ -32,7 +32,7 @@ inline constexpr int kTocco = 48;
     return std::max(1.0, std::min(area.width() / kLarghezza, area.height() / kAltezza));
 }
 
-/// Style, palette, font and style sheet of the whole program. Called once, before the first window.
+/// Style, palette, font, style sheet and icon of the whole program. Called once, before the first window.
 void applica(QApplication& applicazione);
 
 [[nodiscard]] inline QColor colore(Colore c) {
