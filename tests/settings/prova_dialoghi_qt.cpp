@@ -4,6 +4,7 @@
 #include "platform/finti/scelta_cartella_finta.h"
 #include "settings/dialoghi.h"
 #include "settings/impo_lumigrafo_android.h"
+#include "settings/percorso_archivio.h"
 #include "settings/qt/comunicazione_qt.h"
 #include "settings/qt/dialogo_qt.h"
 #include "settings/qt/password_qt.h"
@@ -120,6 +121,23 @@ TEST(DialoghiQt, EscRinunciaSenzaSalvareNulla) {
     });
     mostraDialogo<ImpoLumigrafoAndroid>(ambiente, cartella);
     EXPECT_FALSE(std::filesystem::exists(ambiente.file(kFileImpostazioni)));
+}
+
+TEST(DialoghiQt, CioCheSiBatteSubitoPrendeIlPostoDelTesto) {
+    const CartellaTemporanea cartella;
+    const Ambiente ambiente{cartella.percorso(), "lumigrafo", ""};
+    SceltaCartellaFinta scelta;
+    MessaggiFinti messaggi;
+    ProcessiFinti processi;
+    poi([](QWidget& w) {
+        auto* tastiera = figlio<TastieraWidget>(w, "tastiera");
+        for (const QString& tasto : {QStringLiteral("7"), QStringLiteral("5")})
+            QTest::mouseClick(tastiera, Qt::LeftButton, {}, tastiera->rettangolo(tasto).center());
+        tocca(w, "cmdApplica");
+    });
+    mostraDialogo<PercorsoArchivio>(ServiziPercorso{ambiente, messaggi, processi, scelta});
+    EXPECT_EQ(FileIni(ambiente.file(kFileImpostazioni)).LeggiIni(kSezioneImpostazioni, "DatabaseLumigrafo"),
+              "75");
 }
 
 struct SpegniProva : testing::Test {
