@@ -212,8 +212,10 @@ void Chiamata::svuotaCella(std::int16_t index, int riga, int colonna) {
     Griglia& grid = c_.stato.grid.at(static_cast<std::size_t>(index));
     // A rebuild in the middle of the call can have moved the orders: the cell is emptied where it stood,
     // whatever stands there now, and comes back at the next rebuild. It can also be gone.
-    if (riga >= 0 && riga < grid.Rows() && colonna >= 0 && colonna < grid.Cols())
-        grid.testo(riga, colonna, "");
+    if (riga < 0 || riga >= grid.Rows() || colonna < 0 || colonna >= grid.Cols())
+        return;
+    grid.testo(riga, colonna, "");
+    grid.sfondo(riga, colonna, std::nullopt); // the highlight was the order's
 }
 
 void Chiamata::togliRigaVuota(std::int16_t index, int riga) {

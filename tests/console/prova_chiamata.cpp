@@ -95,8 +95,10 @@ TEST_F(Chiamate, AnEmptiedRowGoesAndAHoleStays) {
     for (int n : {7, 8})
         b.clic(0, "A  " + std::to_string(n));
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "A  2", "A  3", "A  4", "A  5", "A  6"));
+    b.stato.grid[0].sfondo(0, 1, kGiallo);
     b.clic(0, "A  2");
     EXPECT_THAT(b.celle(0), ElementsAre("A  1", "", "A  3", "A  4", "A  5", "A  6"));
+    EXPECT_EQ(b.stato.grid[0].sfondo(0, 1), std::nullopt) << "the highlight was the order's";
     b.clic(0, "A  1");
     b.clic(0, "A  3");
     EXPECT_THAT(b.celle(0), ElementsAre("A  4", "A  5", "A  6"));
