@@ -137,7 +137,8 @@ std::vector<std::vector<Valore>> valori(Database& db, const std::string& sorgent
 
 std::string perNome(Database& db, const std::string& tabella) {
     std::string sql;
-    for (const Field& campo : db.OpenRecordset(tabella)->Fields().tutti())
+    const auto rs = db.OpenRecordset(tabella);
+    for (const Field& campo : rs->Fields().tutti())
         sql += (sql.empty() ? "Select [" : ", [") + campo.Name() + ']';
     return sql + " from [" + tabella + ']';
 }
