@@ -144,6 +144,22 @@ void leggiTutto() {
         ignorandoGuasti([&] { (void)esporta(pagine, v.nome); });
 }
 
+/// The rows of every table, which come in one piece, are those that come field by field.
+void leggiComeIlProgramma() {
+    Workspace ws(kAttesa);
+    const auto db = ws.OpenDatabase(file().string());
+    jet::Pagine pagine(file(), {.sola_lettura = true, .attesa = kAttesa});
+    for (const jet::VoceCatalogo& v : leggiCatalogo(pagine)) {
+        std::vector<std::vector<Valore>> intere, campi;
+        const bool lette = ignorandoGuasti([&] {
+            campi = valori(*db, perNome(*db, v.nome));
+            intere = valori(*db, v.nome);
+        });
+        if (lette && intere != campi)
+            throw std::logic_error("whole rows that aren't their fields");
+    }
+}
+
 /// Rows come, change and go in every table, as far as its indexes let them.
 void lavora() {
     const auto motore = apriMotore(file(), kAttesa);
@@ -195,6 +211,7 @@ EsitoAccess giroAccess(std::string_view dati) {
     if (!ignorandoGuasti([&] { intero = sano(); }))
         return EsitoAccess::Rifiutato;
     ignorandoGuasti(leggiTutto);
+    ignorandoGuasti(leggiComeIlProgramma);
     lavoraSenzaGuastare("a sound archive was damaged by the work on it");
 
     scriviFile(byte);
