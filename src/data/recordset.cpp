@@ -22,9 +22,9 @@ struct Lettura {
     const std::int64_t versione;
 };
 
-std::string conChiave(const Selezione& s) {
+std::string conChiave(const std::string& voci, const Selezione& s) {
     // Behind the columns, so that "Order by 2" still means the second of them.
-    return "SELECT " + s.voci + ", _rowid_ " + s.da;
+    return "SELECT " + voci + ", _rowid_ " + s.da;
 }
 
 /// The rows of a view have none.
@@ -42,7 +42,7 @@ std::string conRigheIntere(const Motore& motore, const Selezione& s) {
     });
     if (!s.colonne.empty() || numeri || !motore.righeIntere(s.tabella))
         return {};
-    return "SELECT " + lessico::traVirgolette(RigaIntera::kColonna) + ", _rowid_ " + s.da + s.resto;
+    return conChiave(lessico::traVirgolette(RigaIntera::kColonna), s) + s.resto;
 }
 
 } // namespace
@@ -53,7 +53,7 @@ Recordset::Recordset(std::shared_ptr<Sessione> sessione, const std::string& sorg
     selezione_ = selezioneSemplice(sql);
     if (selezione_ && !haChiave(sessione_->motore(), selezione_->tabella))
         selezione_.reset();
-    sql_ = selezione_ ? conChiave(*selezione_) + selezione_->resto : sql;
+    sql_ = selezione_ ? conChiave(selezione_->voci, *selezione_) + selezione_->resto : sql;
     if (selezione_)
         intere_ = conRigheIntere(sessione_->motore(), *selezione_);
     carica();
@@ -209,7 +209,8 @@ void Recordset::FindFirst(const std::string& criterio) {
 }
 
 Istruzione Recordset::preparaRiga(std::int64_t chiave) {
-    Istruzione riga = sessione_->prepara(conChiave(*selezione_) + " WHERE _rowid_ = ?1", Operazione::Lettura);
+    Istruzione riga = sessione_->prepara(conChiave(selezione_->voci, *selezione_) + " WHERE _rowid_ = ?1",
+                                         Operazione::Lettura);
     riga.lega(1, chiave);
     return riga;
 }

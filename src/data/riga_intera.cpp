@@ -15,16 +15,15 @@ void RigaIntera::azzera() {
 
 void RigaIntera::doppio(double n) {
     if (std::isnan(n))
-        return nullo();
-    Cella c{{}, 0, Cella::Tipo::Doppio};
-    c.doppio = n;
-    celle_.push_back(c);
+        nullo();
+    else
+        celle_.push_back({.doppio = n, .lunghezza = 0, .tipo = Cella::Tipo::Doppio});
 }
 
 void RigaIntera::testo(std::string_view testo) {
-    Cella c{{}, static_cast<std::uint32_t>(testo.size()), Cella::Tipo::Testo};
-    c.inizio = testi_.size();
-    celle_.push_back(c);
+    celle_.push_back({.inizio = testi_.size(),
+                      .lunghezza = static_cast<std::uint32_t>(testo.size()),
+                      .tipo = Cella::Tipo::Testo});
     testi_ += testo;
 }
 

@@ -32,8 +32,10 @@ public:
 
     /// Begins a row anew, with the memory kept.
     void azzera();
-    void nullo() { celle_.push_back({{}, 0, Cella::Tipo::Nullo}); }
-    void intero(std::int64_t n) { celle_.push_back({{n}, 0, Cella::Tipo::Intero}); }
+    void nullo() { celle_.push_back({.intero = 0, .lunghezza = 0, .tipo = Cella::Tipo::Nullo}); }
+    void intero(std::int64_t n) {
+        celle_.push_back({.intero = n, .lunghezza = 0, .tipo = Cella::Tipo::Intero});
+    }
     /// What is no number becomes a null, as everywhere in SQLite.
     void doppio(double n);
     void testo(std::string_view testo);
